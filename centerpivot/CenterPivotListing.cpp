@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "centerpivot/CenterPivotListing.h"
+
+#include "core/Listing.h"
+#include "core/Masks.h"
+#include "core/ProgramState.h"
+#include "core/RecordLayout.h"
+#include "core/Text.h"
+
+#include <array>
+#include <span>
+#include <string_view>
+
+namespace orvel {
+
+namespace {
+
+// In the record's order.
+constexpr std::array<ListingLabel, 46> kLabels = {{
+    {"ClientName", "Client Name:"},
+    {"DateofTest", "Date of Test:"},
+    {"FarmName", "Farm Name:"},
+    {"OperatorName", "Farm Operator:"},
+    {"ClientAddress", "Address:"},
+    {"ClientCity", "City:"},
+    {"ClientCounty", "County:"},
+    {"ClientZip", "Zip Code:"},
+    {"ClientState", "State:"},
+    {"ClientPhone", "Phone:"},
+    {"EMail", "E-Mail:"},
+    {"FarmNameCopy", "Client Farm Name:"},
+    {"FieldName", "Field Name or Identifier:"},
+    {"SoilType", "Soil Type:"},
+    {"SoilSlope", "Soil Slope:"},
+    {"Crops", "Predominate Crops:"},
+    {"CommonTillage", "Common Tillage:"},
+    {"FieldComments", "Comments:"},
+    {"SystemComments", "Comments:"},
+    {"SystemManufacturer", "System Manufacturer:"},
+    {"TypeSprinkler", "Type Sprinkler:"},
+    {"SystemAge", "System Age:"},
+    {"SprinklerAge", "Sprinker Age:"}, // kept: "Sprinker"
+    {"DistanceToTower", "Distance to Last Tower (feet):"},
+    {"EstFlowRate", "Estimated Flow Rate (GPM):"},
+    {"MeasuredFlowRate", "Measured Flow Rate (GPM):"},
+    {"EstimatedPressure", "Estimated Pressure:"},
+    {"MeasuredPressure", "Measured Pressure:"},
+    {"HasEndGun", "Has End Gun"},
+    {"EndGunShutoff", "Has End Gun Shutoff"},
+    {"EndGunArc", "End Gun Arc:"},
+    {"ObservedLeaks", "Leaks Observed"},
+    {"OperatingTimes", "Operation Times:"},
+    {"PercentTimer", "Percent Timer Setting:"},
+    {"GuageDiameter", "Rain Gauge Diameter (cm):"},
+    {"DistanceToFirstGuage", "Distance to First Gauge (feet):"},
+    {"TravelSpeedFeet", "Distance in Feet:"},
+    {"TravelSpeedMinutes", "In Minutes:"},
+    {"TravelSpeedSeconds", "and Seconds:"},
+    {"GuageSpacing", "Gauge Spacing (feet):"},
+    {"TotalAcres", "Estimated Acres:"},
+    {"EndGunAcres", "Estimated Acres - End Gun:"},
+    {"OtherComments", "General Comments"},
+    {"LengthOverhang", "End Gun Overhang (feet):"},
+    {"EndGunRadius", "End Gun Radius (feet):"},
+    {"RadLastSprinkler", "Radius of Last Sprinkler (feet):"},
+}};
+
+constexpr std::size_t kIndexColumns = 8;
+constexpr std::size_t kNumberColumns = 10;
+
+std::string Row(std::string_view index, std::string_view footage, std::string_view volume) {
+    std::string row = PadText(index, kIndexColumns, 'L', ' ');
+    row += PadText(footage, kNumberColumns, 'L', ' ');
+    row += PadText(volume, kNumberColumns, 'L', ' ');
+    return row.append(kCrLf);
+}
+
+} // namespace
+
+std::string CenterPivotListingText() {
+    const CenterPivotTest& test = Program().centerPivotTest;
+    std::string text = ListingTitle("Center Pivot Data");
+    text += ListingFields(std::as_bytes(std::span(&test, 1)), kCenterPivotFields, kLabels);
+    text += RuleLine();
+    text += Row("Cup", "Footage", "Volume");
+    for (int i = 1; i <= LastFilledEntry(test.Gauges); ++i) {
+        const PivotGauge& gauge = test.Gauges[i];
+        text += Row(FormatMask(static_cast<double>(i), "#00"), FormatMask(gauge.Footage, "#####"),
+                    FormatMask(gauge.Volume, "####"));
+    }
+    return text + RuleLine();
+}
+
+} // namespace orvel

@@ -1,0 +1,27 @@
+# SPDX-FileCopyrightText: 2026 The ORVEL developers
+# SPDX-License-Identifier: MIT
+# The flags of our own code: every target of this project links orvel_own_code.
+add_library(orvel_own_code INTERFACE)
+target_include_directories(orvel_own_code INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_options(orvel_own_code INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wconversion -Wsign-conversion -Wshadow=local
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wcast-align -Wnull-dereference -Wformat=2
+  -Wimplicit-fallthrough)
+
+if(ORVEL_SANITIZE)
+  target_compile_options(orvel_own_code INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(orvel_own_code INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(ORVEL_COVERAGE)
+  target_compile_options(orvel_own_code INTERFACE --coverage -fprofile-update=atomic)
+  target_link_options(orvel_own_code INTERFACE --coverage)
+endif()
+
+# A static library of one floor: orvel_add_floor(NAME SOURCES... LINKS lower floors).
+function(orvel_add_floor name)
+  cmake_parse_arguments(PARSE_ARGV 1 floor "" "" "SOURCES;LINKS")
+  add_library(${name} STATIC ${floor_SOURCES})
+  target_link_libraries(${name} PUBLIC orvel_own_code ${floor_LINKS})
+endfunction()

@@ -1,0 +1,253 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/CodePage.h"
+
+#include <cerrno>
+#include <clocale>
+#include <cstddef>
+#include <iconv.h>
+#include <langinfo.h>
+#include <locale.h>
+
+namespace orvel {
+
+namespace {
+
+constexpr std::size_t kHalf = 128;
+constexpr char32_t kInvalid = 0xFFFFFFFF;
+constexpr char32_t kNoBreakSpace = 0x00A0;
+constexpr char32_t kNarrowNoBreakSpace = 0x202F;
+
+unsigned char Byte(char character) {
+    return static_cast<unsigned char>(character);
+}
+
+void AppendUtf8(std::string& utf8, char32_t codePoint) {
+    const auto append = [&utf8](char32_t bits) { utf8 += static_cast<char>(bits); };
+    const auto continuation = [&append, codePoint](int shift) {
+        append(0x80 | ((codePoint >> shift) & 0x3F));
+    };
+    if (codePoint < 0x80) {
+        append(codePoint);
+    } else if (codePoint < 0x800) {
+        append(0xC0 | (codePoint >> 6));
+        continuation(0);
+    } else if (codePoint < 0x10000) {
+        append(0xE0 | (codePoint >> 12));
+        continuation(6);
+        continuation(0);
+    } else {
+        append(0xF0 | (codePoint >> 18));
+        continuation(12);
+        continuation(6);
+        continuation(0);
+    }
+}
+
+// Takes the next character off the text; kInvalid (and one byte) where the text is not UTF-8.
+char32_t TakeCharacter(std::string_view& utf8) {
+    const unsigned char lead = Byte(utf8.front());
+    std::size_t length = 1;
+    char32_t codePoint = lead;
+    char32_t least = 0;
+    if (lead >= 0xF0 && lead < 0xF8) {
+        length = 4;
+        codePoint = lead & 0x07U;
+        least = 0x10000;
+    } else if (lead >= 0xE0 && lead < 0xF0) {
+        length = 3;
+        codePoint = lead & 0x0FU;
+        least = 0x800;
+    } else if (lead >= 0xC0 && lead < 0xE0) {
+        length = 2;
+        codePoint = lead & 0x1FU;
+        least = 0x80;
+    } else if (lead >= 0x80) {
+        utf8.remove_prefix(1);
+        return kInvalid;
+    }
+    bool isValid = utf8.size() >= length;
+    for (std::size_t i = 1; isValid && i < length; ++i) {
+        isValid = (Byte(utf8[i]) & 0xC0U) == 0x80U;
+        codePoint = (codePoint << 6) | (Byte(utf8[i]) & 0x3FU);
+    }
+    const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    if (!isValid || codePoint < least || codePoint > 0x10FFFF || isSurrogate) {
+        utf8.remove_prefix(1);
+        return kInvalid;
+    }
+    utf8.remove_prefix(length);
+    return codePoint;
+}
+
+// One conversion descriptor from a character set to UTF-32.
+class Decoder {
+public:
+    explicit Decoder(const std::string& charset) : descriptor(iconv_open("UTF-32LE", charset.c_str())) {}
+
+    ~Decoder() {
+        if (IsOpen()) {
+            iconv_close(descriptor);
+        }
+    }
+
+    Decoder(const Decoder&) = delete;
+    Decoder& operator=(const Decoder&) = delete;
+
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the failure value that iconv_open is documented with.
+    [[nodiscard]] bool IsOpen() const { return descriptor != reinterpret_cast<iconv_t>(-1); }
+
+    // What the one byte stands for; nothing when the set assigns nothing to it. `isIncomplete` is set when
+    // more bytes would have to follow.
+    std::optional<char32_t> Decode(char byte, bool& isIncomplete) {
+        std::array<unsigned char, 8> output{};
+        char* in = &byte;
+        std::size_t inLeft = 1;
+        char* out = reinterpret_cast<char*>(output.data());
+        std::size_t outLeft = output.size();
+        iconv(descriptor, nullptr, nullptr, nullptr, nullptr);
+        const std::size_t result = iconv(descriptor, &in, &inLeft, &out, &outLeft);
+        if (result == static_cast<std::size_t>(-1)) {
+            isIncomplete = isIncomplete || errno == EINVAL;
+            return std::nullopt;
+        }
+        if (outLeft != output.size() - 4) {
+            return std::nullopt;
+        }
+        return output[0] | static_cast<char32_t>(output[1]) << 8U | static_cast<char32_t>(output[2]) << 16U |
+               static_cast<char32_t>(output[3]) << 24U;
+    }
+
+private:
+    iconv_t descriptor;
+};
+
+CodePage& Current() {
+    static CodePage page = CodePage::Windows1252();
+    return page;
+}
+
+} // namespace
+
+CodePage::CodePage(const std::array<char32_t, kHalf>& codePoints) : upperHalf(codePoints) {
+    for (std::size_t i = 0; i < kHalf; ++i) {
+        bytes.emplace(codePoints[i], static_cast<char>(kHalf + i));
+    }
+}
+
+CodePage CodePage::Windows1252() {
+    // Bytes 0x80 to 0x9F; the other characters have the number of their byte, as have 81, 8D, 8F, 90 and 9D,
+    // to which the page assigns nothing.
+    static constexpr std::array<char32_t, 32> kSpecial = {
+        0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+    std::array<char32_t, kHalf> codePoints{};
+    for (std::size_t i = 0; i < kHalf; ++i) {
+        codePoints[i] = i < kSpecial.size() ? kSpecial[i] : static_cast<char32_t>(kHalf + i);
+    }
+    return CodePage(codePoints);
+}
+
+std::optional<CodePage> CodePage::Named(const std::string& charset) {
+    Decoder decoder(charset);
+    if (!decoder.IsOpen()) {
+        return std::nullopt;
+    }
+    bool isIncomplete = false;
+    for (std::size_t i = 0; i < kHalf; ++i) {
+        if (decoder.Decode(static_cast<char>(i), isIncomplete) != static_cast<char32_t>(i)) {
+            return std::nullopt;
+        }
+    }
+    std::array<char32_t, kHalf> codePoints{};
+    std::size_t assigned = 0;
+    for (std::size_t i = 0; i < kHalf; ++i) {
+        const auto codePoint = decoder.Decode(static_cast<char>(kHalf + i), isIncomplete);
+        assigned += codePoint ? 1U : 0U;
+        codePoints[i] = codePoint.value_or(static_cast<char32_t>(kHalf + i));
+    }
+    CodePage page(codePoints);
+    const bool isOneToOne = page.bytes.size() == kHalf;
+    if (isIncomplete || assigned == 0 || !isOneToOne) {
+        return std::nullopt;
+    }
+    return page;
+}
+
+CodePage CodePage::OfSystem() {
+    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
+    if (locale == nullptr) {
+        return Windows1252();
+    }
+    const std::string charset = nl_langinfo_l(CODESET, locale);
+    freelocale(locale);
+    std::optional<CodePage> page = Named(charset);
+    if (!page) {
+        return Windows1252();
+    }
+    page->isOfSystem = true;
+    return *page;
+}
+
+char32_t CodePage::ToUnicode(char character) const {
+    const unsigned char byte = Byte(character);
+    return byte < kHalf ? byte : upperHalf[byte - kHalf];
+}
+
+std::optional<char> CodePage::FromUnicode(char32_t codePoint) const {
+    if (codePoint < kHalf) {
+        return static_cast<char>(codePoint);
+    }
+    const auto found = bytes.find(codePoint);
+    return found == bytes.end() ? std::nullopt : std::optional<char>(found->second);
+}
+
+const CodePage& CurrentCodePage() {
+    return Current();
+}
+
+void UseCodePage(const CodePage& page) {
+    Current() = page;
+}
+
+std::string ToUtf8(std::string_view text) {
+    const CodePage& page = CurrentCodePage();
+    std::string utf8;
+    utf8.reserve(text.size());
+    for (const char character : text) {
+        AppendUtf8(utf8, page.ToUnicode(character));
+    }
+    return utf8;
+}
+
+std::string FromUtf8(std::string_view utf8) {
+    const CodePage& page = CurrentCodePage();
+    std::string text;
+    while (!utf8.empty()) {
+        const char32_t codePoint = TakeCharacter(utf8);
+        std::optional<char> character = page.FromUnicode(codePoint);
+        if (!character && codePoint == kNarrowNoBreakSpace) {
+            character = page.FromUnicode(kNoBreakSpace);
+        }
+        text += character.value_or('?');
+    }
+    return text;
+}
+
+std::string SystemToText(std::string_view systemText) {
+    return CurrentCodePage().IsOfSystem() ? std::string{systemText} : FromUtf8(systemText);
+}
+
+std::optional<std::string> FirstLackingCharacter(std::string_view utf8) {
+    const CodePage& page = CurrentCodePage();
+    while (!utf8.empty()) {
+        const std::string_view before = utf8;
+        if (!page.FromUnicode(TakeCharacter(utf8))) {
+            return std::string{before.substr(0, before.size() - utf8.size())};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace orvel

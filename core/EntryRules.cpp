@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/EntryRules.h"
+
+#include "core/Platform.h"
+
+namespace orvel {
+
+namespace {
+
+constexpr int kBackspace = 8;
+constexpr int kDropped = 0;
+
+} // namespace
+
+std::string LimitLength(std::string_view text, std::size_t maximum) {
+    if (text.size() > maximum) {
+        // kept: "Maximim".
+        CurrentPlatform().messageBox->Show({"Maximim Characters in this field is " + std::to_string(maximum),
+                                            "Input Error", Buttons::Ok, Icon::None});
+    }
+    return std::string{text.substr(0, maximum)};
+}
+
+int FilterNumericKey(int key) {
+    if (key == kBackspace || key == '.' || (key >= '0' && key <= '9')) {
+        return key;
+    }
+    CurrentPlatform().beeper->Beep();
+    return kDropped;
+}
+
+} // namespace orvel

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/FileNames.h"
+
+#include "core/CodePage.h"
+
+#include <algorithm>
+
+namespace orvel {
+
+namespace {
+
+char LowerCase(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
+}
+
+} // namespace
+
+bool FileExists(const std::filesystem::path& path) {
+    std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
+}
+
+std::string FileNameText(const std::filesystem::path& path) {
+    return PathText(path.filename());
+}
+
+std::string PathText(const std::filesystem::path& path) {
+    return SystemToText(path.native());
+}
+
+bool HasExtension(const std::filesystem::path& path, std::string_view extension) {
+    const std::string own = path.extension().native();
+    return own.size() == extension.size() + 1 &&
+           std::ranges::equal(std::string_view(own).substr(1), extension, {}, LowerCase, LowerCase);
+}
+
+} // namespace orvel

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// Paths never pass through the code page; only a name that a text shows does.
+namespace orvel {
+
+// Whether a path names something that can be read as a file. The name is taken literally; an empty path and a
+// folder are none.
+[[nodiscard]] bool FileExists(const std::filesystem::path& path);
+
+// The file's name without its folder, in the program's code page.
+[[nodiscard]] std::string FileNameText(const std::filesystem::path& path);
+
+// A whole path in the program's code page, as far as the page can hold it.
+[[nodiscard]] std::string PathText(const std::filesystem::path& path);
+
+// Whether the name ends in "." and the extension, in any case ("TEST.CPD" has "cpd").
+[[nodiscard]] bool HasExtension(const std::filesystem::path& path, std::string_view extension);
+
+} // namespace orvel

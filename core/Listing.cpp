@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/Listing.h"
+
+#include "core/RunTimeError.h"
+#include "core/Stored.h"
+#include "core/Text.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace orvel {
+
+namespace {
+
+constexpr std::size_t kLabelColumns = 34;
+constexpr std::size_t kLeastCommentWidth = 500;
+
+std::string ValueText(std::span<const std::byte> bytes, FieldKind kind) {
+    if (kind == FieldKind::Text) {
+        std::string text(bytes.size(), ' ');
+        std::memcpy(text.data(), bytes.data(), bytes.size());
+        return std::string{Trim(text)};
+    }
+    if (kind == FieldKind::Flag) {
+        Flag flag;
+        std::memcpy(&flag, bytes.data(), sizeof flag);
+        return flag.IsSet() ? "True" : "False";
+    }
+    Raise(ErrorNumber::InvalidProcedureCall);
+}
+
+} // namespace
+
+std::string ListingTitle(std::string_view title) {
+    return PadText(title, kReportColumns, 'C', ' ').append(kCrLf) + RuleLine();
+}
+
+std::string ListingFields(std::span<const std::byte> record, std::span<const Field> fields,
+                          std::span<const ListingLabel> labels) {
+    std::string text;
+    for (const ListingLabel& label : labels) {
+        const auto field = std::ranges::find(fields, label.field, &Field::name);
+        if (field == fields.end()) {
+            Raise(ErrorNumber::InvalidProcedureCall);
+        }
+        const bool isComment = field->width >= kLeastCommentWidth;
+        text += isComment ? std::string{label.label}.append(kCrLf)
+                          : PadText(label.label, kLabelColumns, 'R', ' ');
+        text += ValueText(record.subspan(field->offset, field->width), field->kind);
+        text += kCrLf;
+    }
+    return text;
+}
+
+} // namespace orvel

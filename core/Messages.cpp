@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/Messages.h"
+
+#include "core/ProgramState.h"
+#include "core/Text.h"
+
+#include <string>
+
+namespace orvel {
+
+Reply ShowKeptMessage(const Message& message) {
+    ProgramState& program = Program();
+    program.messageText = message.text;
+    program.messageReply = CurrentPlatform().messageBox->Show(message);
+    return program.messageReply;
+}
+
+void ShowGenerationError(const RunTimeError& error) {
+    std::string text = "Sorry, an error occurred generating report...";
+    text.append(kCr).append("Error Number: ").append(std::to_string(error.Number()));
+    text.append(kCr).append("Error Description: ").append(error.Description());
+    text.append(kCr).append("Error Source: ").append(error.Source()).append(kCr);
+    Program().shownError = error;
+    ShowKeptMessage({text, "Error", Buttons::Ok, Icon::Critical});
+}
+
+} // namespace orvel

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <limits>
+#include <string>
+#include <string_view>
+
+// Whole files in and out. Files are opened, read or written, and closed within one call. All failures raise
+// FileError.
+namespace orvel {
+
+// The file's first `most` bytes, or all of them when it is shorter.
+[[nodiscard]] std::string ReadFile(const std::filesystem::path& path,
+                                   std::size_t most = std::numeric_limits<std::size_t>::max());
+
+// Whether the new content must have reached the disk before the old one goes.
+enum class Flush { ToDisk, Lazy };
+
+// Makes `content` the file's content, whole or not at all: it goes to a temporary file (".orvel-" and six
+// characters) in the same folder, which takes the old file's permissions and replaces it; a failure on the
+// way leaves the old file as it was and removes the temporary. A symbolic link stays, its target is replaced.
+// Where the folder lets no file be created but the file may be written, it is overwritten in place, and the
+// old bytes are put back when that fails. A device or a pipe is written straight; a folder, a socket and a
+// file without write permission are errors.
+void ReplaceFile(const std::filesystem::path& path, std::string_view content, Flush flush);
+
+} // namespace orvel
