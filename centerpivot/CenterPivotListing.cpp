@@ -9,7 +9,6 @@
 #include "core/Text.h"
 
 #include <array>
-#include <span>
 #include <string_view>
 
 namespace orvel {
@@ -81,7 +80,7 @@ std::string Row(std::string_view index, std::string_view footage, std::string_vi
 std::string CenterPivotListingText() {
     const CenterPivotTest& test = Program().centerPivotTest;
     std::string text = ListingTitle("Center Pivot Data");
-    text += ListingFields(std::as_bytes(std::span(&test, 1)), kCenterPivotFields, kLabels);
+    text += ListingFields(AsBytes(test), kCenterPivotFields, kLabels);
     text += RuleLine();
     text += Row("Cup", "Footage", "Volume");
     for (int i = 1; i <= LastFilledEntry(test.Gauges); ++i) {

@@ -162,15 +162,20 @@ inline constexpr std::array<Field, 5> kSolidSetGaugeFields = {{
     {"Spare", 16, 4, FieldKind::Single},
 }};
 
-// The bytes of one field of a record.
+// The bytes of a record or an element.
 template <class Record>
-std::span<std::byte> FieldBytes(Record& record, const Field& field) {
-    return std::as_writable_bytes(std::span(&record, 1)).subspan(field.offset, field.width);
+auto AsBytes(Record& record) {
+    if constexpr (std::is_const_v<Record>) {
+        return std::span<const std::byte>(std::as_bytes(std::span(&record, 1)));
+    } else {
+        return std::span<std::byte>(std::as_writable_bytes(std::span(&record, 1)));
+    }
 }
 
+// The bytes of one of its fields.
 template <class Record>
-std::span<const std::byte> FieldBytes(const Record& record, const Field& field) {
-    return std::as_bytes(std::span(&record, 1)).subspan(field.offset, field.width);
+auto FieldBytes(Record& record, const Field& field) {
+    return AsBytes(record).subspan(field.offset, field.width);
 }
 
 [[nodiscard]] bool AreAllZero(std::span<const std::byte> bytes);
@@ -179,7 +184,7 @@ std::span<const std::byte> FieldBytes(const Record& record, const Field& field) 
 template <class Gauge>
 int LastFilledEntry(const MeasurementList<Gauge>& gauges) {
     int last = MeasurementList<Gauge>::kLast;
-    while (last > 0 && AreAllZero(std::as_bytes(std::span(&gauges[last], 1)))) {
+    while (last > 0 && AreAllZero(AsBytes(gauges[last]))) {
         --last;
     }
     return last;

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+namespace orvel::cli {
+
+// JSON whose members keep their order and whose numbers are Singles: read with one rounding, written with the
+// shortest digits that read back as the same.
+using Json = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool, std::int64_t,
+                                  std::uint64_t, float>;
+
+// A whole number without a decimal point, any other in its shortest form; one that is not finite as a text
+// of its bits, "0x7fc00000".
+[[nodiscard]] Json JsonSingle(float value);
+
+// One document, indented for reading, or one line of several.
+[[nodiscard]] std::string JsonDocument(const Json& json);
+[[nodiscard]] std::string JsonLine(const Json& json);
+
+// Reads one document. Raises std::runtime_error, saying what is wrong and where, for text that is no JSON, an
+// object that names a member twice, or a number that no Single holds.
+[[nodiscard]] Json ParseJson(const std::string& text);
+
+} // namespace orvel::cli

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "cli/Sink.h"
+
+#include "cli/ExitStatus.h"
+#include "cli/Output.h"
+
+#include <set>
+
+namespace orvel::cli {
+
+Sink::Sink(const Options& callOptions, std::string_view extensionOfOutputs)
+    : options(callOptions), extension(extensionOfOutputs) {
+    if (!options.output.empty()) {
+        RefuseToOverwriteInput(options.output, options.files);
+    }
+    if (!options.outputDirectory.empty()) {
+        std::set<std::filesystem::path> outputs;
+        for (const std::filesystem::path& file : options.files) {
+            const std::filesystem::path output = OutputFor(file);
+            if (!outputs.insert(output).second) {
+                throw CommandError(kWrongUsage, file.native(),
+                                   "another file would be written to " + output.native() + " too");
+            }
+            RefuseToOverwriteInput(output, options.files);
+        }
+    }
+}
+
+void Sink::Take(const std::filesystem::path& file, std::string_view text) {
+    if (!options.outputDirectory.empty()) {
+        WriteOutput(OutputFor(file), text, Flush::Lazy);
+    } else if (!options.output.empty()) {
+        gathered += text;
+        hasGathered = true;
+    } else {
+        Print(text);
+    }
+}
+
+void Sink::Finish() {
+    if (hasGathered) {
+        WriteOutput(options.output, gathered, Flush::Lazy);
+    }
+    FlushOutput();
+}
+
+std::filesystem::path Sink::OutputFor(const std::filesystem::path& file) const {
+    return options.outputDirectory / (file.stem().native() + "." + extension);
+}
+
+} // namespace orvel::cli
