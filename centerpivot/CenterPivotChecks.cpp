@@ -6,6 +6,9 @@
 #include "core/DataChecks.h"
 #include "core/ProgramState.h"
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -33,7 +36,8 @@ void AddParagraph(DataChecks& checks, std::string_view paragraph) {
 // Evaluates all its operands, so that every field is trimmed in the record.
 template <std::size_t... N>
 bool AreFilled(FixedText<N>&... fields) {
-    return (... & !IsBlank(fields));
+    const std::array filled{!IsBlank(fields)...};
+    return std::ranges::all_of(filled, std::identity{});
 }
 
 void CheckMissingInputs(DataChecks& checks, CenterPivotTest& test) {

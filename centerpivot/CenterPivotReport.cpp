@@ -50,11 +50,11 @@ std::string PercentText(float percent) {
 }
 
 std::string AcresWarning(float estimated, float irrigated) {
-    if (!(estimated > 0 && irrigated > 0)) {
+    if (estimated <= 0 || irrigated <= 0) {
         return {};
     }
     const long double difference = std::fabs(static_cast<long double>(estimated) - irrigated);
-    if (!(StoreSingle(Divide(difference, estimated)) > kAcresTolerance)) {
+    if (StoreSingle(Divide(difference, estimated)) <= kAcresTolerance) {
         return {};
     }
     return Line("Calculated acres is more/less than 10% of estimated "
@@ -63,7 +63,7 @@ std::string AcresWarning(float estimated, float irrigated) {
 
 std::string EfficiencyParagraph() {
     const float efficiency = PivotResults().ApplicationEfficiency;
-    if (!(efficiency > 0)) {
+    if (efficiency <= 0) {
         return {};
     }
     const float percent = StoreSingle(efficiency * 100.0L);

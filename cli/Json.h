@@ -9,16 +9,15 @@
 
 namespace orvel::cli {
 
-// JSON whose members keep their order and whose numbers are Singles: read with one rounding, written with the
-// shortest digits that read back as the same.
+// JSON whose members keep their order and whose numbers are Singles, read with one rounding.
 using Json = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::string, bool, std::int64_t,
                                   std::uint64_t, float>;
 
-// A whole number without a decimal point, any other in its shortest form; one that is not finite as a text
-// of its bits, "0x7fc00000".
+// A number, or for one that is not finite a text of its bits, "0x7fc00000".
 [[nodiscard]] Json JsonSingle(float value);
 
-// One document, indented for reading, or one line of several.
+// One document, indented for reading, or one line of several. A Single is written in the shortest form that
+// reads back as the same.
 [[nodiscard]] std::string JsonDocument(const Json& json);
 [[nodiscard]] std::string JsonLine(const Json& json);
 

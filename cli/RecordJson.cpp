@@ -228,7 +228,8 @@ void BuildGauges(const Json& json, std::span<const Field> fields, MeasurementLis
         }
         for (const auto& [name, value] : entry.items()) {
             const Field* field = FindField(fields, name);
-            const std::string member = place + "." + name;
+            std::string member = place;
+            member.append(".").append(name);
             if (field == nullptr) {
                 Refuse(member, "is no field of a measurement");
             }

@@ -8,7 +8,7 @@
 
 int main(int argc, char** argv) {
     // A file that grows over its limit is then a failed write and not the program's end.
-    std::signal(SIGXFSZ, SIG_IGN);
+    (void)std::signal(SIGXFSZ, SIG_IGN);
     orvel::UseCodePage(orvel::CodePage::OfSystem());
     orvel::UseNumberLocale(orvel::SystemNumberLocale());
     return orvel::cli::RunCommandLine(argc, argv);

@@ -7,7 +7,6 @@
 #include <cstddef>
 #include <iconv.h>
 #include <langinfo.h>
-#include <locale.h>
 
 namespace orvel {
 

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <ranges>
 #include <system_error>
 
 namespace orvel {
@@ -83,8 +84,8 @@ std::optional<std::size_t> GroupSize(const std::string& grouping, std::size_t in
 bool GroupsStandRight(std::string_view run, const std::string& grouping) {
     std::size_t group = 0;
     std::size_t length = 0;
-    for (auto character = run.rbegin(); character != run.rend(); ++character) {
-        if (IsDigit(*character)) {
+    for (const char character : std::views::reverse(run)) {
+        if (IsDigit(character)) {
             ++length;
             continue;
         }

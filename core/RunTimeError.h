@@ -35,12 +35,13 @@ public:
     [[nodiscard]] const char* Description() const;
 
     // The program's title.
-    [[nodiscard]] const char* Source() const { return "ORVEL"; }
+    [[nodiscard]] const char* Source() const { return errorSource; }
 
     [[nodiscard]] const char* what() const noexcept override { return Description(); }
 
 private:
     ErrorNumber errorNumber;
+    const char* errorSource = "ORVEL";
 };
 
 // A file operation failed. what() names the step and the system's reason ("cannot open: Permission denied").

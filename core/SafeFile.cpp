@@ -204,7 +204,7 @@ void GiveOwnerAndPermissions(int descriptor, const struct stat* old) {
     if (old != nullptr) {
         // Only root may give a file away. A user who may write another's file becomes its owner: the content
         // matters more.
-        (void)!::fchown(descriptor, old->st_uid, old->st_gid);
+        [[maybe_unused]] const int ignored = ::fchown(descriptor, old->st_uid, old->st_gid);
     }
     const mode_t bits = old != nullptr ? old->st_mode & kPermissionBits : PermissionsOfNewFile();
     if (::fchmod(descriptor, bits) == -1) {

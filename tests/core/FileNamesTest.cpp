@@ -1,2 +1,115 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
+#include "core/FileNames.h"
+
+#include "tests/support/LogicTest.h"
+#include "tests/support/TestFiles.h"
+
+#include <array>
+#include <string>
+
+namespace orvel {
+namespace {
+
+namespace fs = std::filesystem;
+
+using testing::PutContents;
+using testing::TemporaryFolder;
+
+class FileNamesTest : public testing::LogicTest {};
+
+TEST_F(FileNamesTest, KnowsWhichFilesExist) {
+    const TemporaryFolder folder;
+    PutContents(folder / "Test one.cpd", "");
+    PutContents(folder / ".hidden", "x");
+    fs::create_symlink("Test one.cpd", folder / "link");
+    fs::create_symlink("nothing", folder / "dangling");
+    fs::create_symlink("loop", folder / "loop");
+    fs::create_directory_symlink(".", folder / "folder link");
+    for (const char* name : {"Test one.cpd", ".hidden", "link"}) {
+        EXPECT_TRUE(FileExists(folder / name)) << name;
+    }
+    for (const char* name :
+         {"test one.cpd", "nothing", "dangling", "loop", "folder link", "none/x", ".hidden/x"}) {
+        EXPECT_FALSE(FileExists(folder / name)) << name;
+    }
+}
+
+TEST_F(FileNamesTest, CountsNeitherAFolderNorAnEmptyPathAsAFile) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(FileExists(folder.Path()));
+    EXPECT_FALSE(FileExists(folder.Path() / ""));
+    EXPECT_FALSE(FileExists(""));
+    EXPECT_FALSE(FileExists("."));
+}
+
+TEST_F(FileNamesTest, TakesWildcardsLiterally) {
+    const TemporaryFolder folder;
+    PutContents(folder / "a.cpd", "x");
+    for (const char* name : {"*", "*.cpd", "?.cpd", "[a].cpd"}) {
+        EXPECT_FALSE(FileExists(folder / name)) << name;
+    }
+    PutContents(folder / "*.cpd", "x");
+    EXPECT_TRUE(FileExists(folder / "*.cpd"));
+    EXPECT_FALSE(FileExists(folder / "?.cpd"));
+}
+
+TEST_F(FileNamesTest, SeesNoFileInAFolderThatMayNotBeEntered) {
+    const TemporaryFolder folder;
+    PutContents(folder / "a.cpd", "x");
+    const testing::AsOrdinaryUser user(folder.Path());
+    EXPECT_TRUE(FileExists(folder / "a.cpd"));
+    fs::permissions(folder.Path(), fs::perms::none);
+    EXPECT_FALSE(FileExists(folder / "a.cpd"));
+}
+
+TEST_F(FileNamesTest, NamesAFileWithoutItsFolder) {
+    struct Case {
+        const char* path;
+        const char* name;
+    };
+
+    constexpr std::array<Case, 8> kCases = {{
+        {"/home/tester/North field.cpd", "North field.cpd"},
+        {"North field.cpd", "North field.cpd"},
+        {"../a/b.c.ssd", "b.c.ssd"},
+        {"/a/.hidden", ".hidden"},
+        {R"(C:\tests\a.cpd)", R"(C:\tests\a.cpd)"},
+        {"/a/ b ", " b "},
+        {"/a/", ""},
+        {"", ""},
+    }};
+    for (const Case& one : kCases) {
+        EXPECT_EQ(FileNameText(one.path), one.name) << one.path;
+    }
+}
+
+TEST_F(FileNamesTest, ShowsNamesInTheCodePage) {
+    EXPECT_EQ(FileNameText("/h\xC3\xB6"
+                           "fe/Pr\xC3\xBC"
+                           "fung \xE2\x82\xAC.cpd"),
+              "Pr\xFC"
+              "fung \x80.cpd");
+    EXPECT_EQ(PathText("/h\xC3\xB6"
+                       "fe/a.cpd"),
+              "/h\xF6"
+              "fe/a.cpd");
+    // What the page lacks.
+    EXPECT_EQ(FileNameText("/a/\xE6\xB0\xB4.cpd"), "?.cpd");
+    EXPECT_EQ(PathText("/\xE6\xB0\xB4/a.cpd"), "/?/a.cpd");
+    EXPECT_EQ(PathText(""), "");
+}
+
+TEST_F(FileNamesTest, MatchesExtensionsInAnyCase) {
+    for (const char* path : {"a.cpd", "A.CPD", "/x/y.z/Test 1.CpD", "a.ssd.cpd", "a..cpd"}) {
+        EXPECT_TRUE(HasExtension(path, "cpd")) << path;
+        EXPECT_TRUE(HasExtension(path, "CPD")) << path;
+    }
+    for (const char* path : {"a.ssd", "acpd", "a.cpd2", "a.cp", "a.cpd ", "a.cpd.txt", "a.", "a", "",
+                             "/x.cpd/a", "/x.cpd/", "cpd"}) {
+        EXPECT_FALSE(HasExtension(path, "cpd")) << path;
+    }
+}
+
+} // namespace
+} // namespace orvel
