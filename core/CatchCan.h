@@ -33,7 +33,8 @@ std::int16_t CountCups(const MeasurementList<Gauge>& gauges) {
 // V x 4 / (D^2 x pi) x 0.393700787
 [[nodiscard]] float DepthFromVolume(float volume, float diameter);
 
-// The largest depth and the sum of all; both start from `first`, the depth of row 1 whatever it holds.
+// The sum of all depths and the largest; the search for it starts from `first`, the depth of row 1 whatever
+// it holds.
 struct DepthTotals {
     float maximum = 0;
     long double sum = 0;

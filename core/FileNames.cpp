@@ -31,9 +31,11 @@ std::string PathText(const std::filesystem::path& path) {
 }
 
 bool HasExtension(const std::filesystem::path& path, std::string_view extension) {
-    const std::string own = path.extension().native();
-    return own.size() == extension.size() + 1 &&
-           std::ranges::equal(std::string_view(own).substr(1), extension, {}, LowerCase, LowerCase);
+    const std::string name = path.filename().native();
+    const std::string ending = "." + std::string{extension};
+    return name.size() >= ending.size() &&
+           std::ranges::equal(std::string_view(name).substr(name.size() - ending.size()), ending, {},
+                              LowerCase, LowerCase);
 }
 
 } // namespace orvel

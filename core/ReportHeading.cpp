@@ -79,7 +79,7 @@ std::string SideBySide(const Lines& left, const Lines& right) {
     for (std::size_t i = 0; i < std::max(left.size(), right.size()); ++i) {
         const std::string row = PadText(i < left.size() ? left[i] : "", kClientColumns, 'R', ' ') +
                                 (i < right.size() ? right[i] : "");
-        text.append(TrimRight(row)).append(kCrLf);
+        text.append(row).append(kCrLf);
     }
     return text;
 }

@@ -187,11 +187,10 @@ public:
 
     Descriptor& File() { return file; }
 
-    void RenameTo(const fs::path& path) {
-        if (::rename(name.c_str(), path.c_str()) == -1) {
-            Fail("cannot replace the file");
-        }
-        isPresent = false;
+    // False, with errno set, when the system refuses.
+    [[nodiscard]] bool RenameTo(const fs::path& path) {
+        isPresent = ::rename(name.c_str(), path.c_str()) == -1;
+        return !isPresent;
     }
 
 private:
@@ -202,9 +201,12 @@ private:
 
 void GiveOwnerAndPermissions(int descriptor, const struct stat* old) {
     if (old != nullptr) {
-        // Only root may give a file away. A user who may write another's file becomes its owner: the content
-        // matters more.
-        [[maybe_unused]] const int ignored = ::fchown(descriptor, old->st_uid, old->st_gid);
+        // Only root may give a file away. A user who may write another's file becomes its owner and keeps its
+        // group as far as the system allows: the content matters more.
+        if (::fchown(descriptor, old->st_uid, old->st_gid) == -1) {
+            constexpr auto kSameOwner = static_cast<uid_t>(-1);
+            [[maybe_unused]] const int ignored = ::fchown(descriptor, kSameOwner, old->st_gid);
+        }
     }
     const mode_t bits = old != nullptr ? old->st_mode & kPermissionBits : PermissionsOfNewFile();
     if (::fchmod(descriptor, bits) == -1) {
@@ -222,9 +224,11 @@ void FlushFolder(const fs::path& folder) {
 
 void ReplaceByRename(const fs::path& path, const struct stat* old, std::string_view content, Flush flush) {
     const fs::path folder = FolderOf(path);
+    // The folder, or its sticky bit, may forbid what the file itself allows.
+    const auto mayOverwrite = [old] { return old != nullptr && (errno == EACCES || errno == EPERM); };
     TemporaryFile temporary(folder);
     if (!temporary.IsOpen()) {
-        if (old != nullptr && (errno == EACCES || errno == EPERM)) {
+        if (mayOverwrite()) {
             OverwriteInPlace(path, content, flush);
             return;
         }
@@ -236,7 +240,13 @@ void ReplaceByRename(const fs::path& path, const struct stat* old, std::string_v
         FlushToDisk(temporary.File().Get());
     }
     temporary.File().CloseChecked();
-    temporary.RenameTo(path);
+    if (!temporary.RenameTo(path)) {
+        if (!mayOverwrite()) {
+            Fail("cannot replace the file");
+        }
+        OverwriteInPlace(path, content, flush);
+        return;
+    }
     if (flush == Flush::ToDisk) {
         FlushFolder(folder);
     }
@@ -262,6 +272,9 @@ std::string ReadFile(const fs::path& path, std::size_t most) {
 }
 
 void ReplaceFile(const fs::path& path, std::string_view content, Flush flush) {
+    if (path.empty()) {
+        throw FileError("cannot open for writing", ENOENT);
+    }
     const fs::path target = WithoutLinks(path);
 
     struct stat old {};

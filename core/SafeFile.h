@@ -22,9 +22,9 @@ enum class Flush { ToDisk, Lazy };
 // Makes `content` the file's content, whole or not at all: it goes to a temporary file (".orvel-" and six
 // characters) in the same folder, which takes the old file's permissions and replaces it; a failure on the
 // way leaves the old file as it was and removes the temporary. A symbolic link stays, its target is replaced.
-// Where the folder lets no file be created but the file may be written, it is overwritten in place, and the
-// old bytes are put back when that fails. A device or a pipe is written straight; a folder, a socket and a
-// file without write permission are errors.
+// Where the folder lets no file be created or replaced but the file may be written, it is overwritten in
+// place, and the old bytes are put back when that fails. A device or a pipe is written straight; a folder, a
+// socket and a file without write permission are errors.
 void ReplaceFile(const std::filesystem::path& path, std::string_view content, Flush flush);
 
 } // namespace orvel

@@ -156,7 +156,8 @@ TEST_F(BadInput, FlippedBitsHarmNothing) {
     for (int round = 0; round < 40; ++round) {
         std::string content = Contents(kPivot);
         for (int flip = 0; flip < 30; ++flip) {
-            content[random() % content.size()] ^= static_cast<char>(1U << (random() % 8));
+            char& byte = content[random() % content.size()];
+            byte = static_cast<char>(byte ^ (1U << (random() % 8)));
         }
         PutContents(folder / "flipped.cpd", content);
         const RunResult dump = RunProgram({"dump", folder / "flipped.cpd"});

@@ -219,7 +219,7 @@ TEST_F(Commands, BuildMakesTheFileNewAsAWhole) {
 }
 
 TEST_F(Commands, BuildTakesTheKindFromWhoeverSaysIt) {
-    const auto build = [this](const std::string& json, std::vector<std::string> arguments) {
+    const auto build = [](const std::string& json, std::vector<std::string> arguments) {
         arguments.insert(arguments.begin(), {"build", "-", "-o"});
         return RunProgram(Call{.arguments = arguments, .input = json}).status;
     };

@@ -100,8 +100,8 @@ TEST_F(RecordJson, DumpLeavesOutTrailingGaugesOfZeroBytesAndKeepsGaps) {
     EXPECT_EQ(DumpTest(test)["Gauges"].size(), 0U);
     test.Gauges[2].Volume = 112.5F;
     EXPECT_EQ(JsonLine(DumpTest(test)["Gauges"]), R"([{"Sequence":0,"Footage":0,"Volume":0,"Spare":0},)"
-                                               R"({"Sequence":0,"Footage":0,"Volume":112.5,"Spare":0}])"
-                                               "\n");
+                                                  R"({"Sequence":0,"Footage":0,"Volume":112.5,"Spare":0}])"
+                                                  "\n");
     test.Gauges[300].Spare = -0.0F;
     EXPECT_EQ(DumpTest(test)["Gauges"].size(), 300U);
 }
