@@ -157,7 +157,7 @@ TEST_F(BadInput, FlippedBitsHarmNothing) {
         std::string content = Contents(kPivot);
         for (int flip = 0; flip < 30; ++flip) {
             char& byte = content[random() % content.size()];
-            byte = static_cast<char>(byte ^ (1U << (random() % 8)));
+            byte = static_cast<char>(static_cast<unsigned char>(byte) ^ (1U << (random() % 8)));
         }
         PutContents(folder / "flipped.cpd", content);
         const RunResult dump = RunProgram({"dump", folder / "flipped.cpd"});

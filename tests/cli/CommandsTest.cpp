@@ -55,7 +55,8 @@ TEST_F(Commands, ReportPrintsTheReportWithTheSettingsOfTheProgramDirectory) {
 TEST_F(Commands, ReportWithoutSettingsLeavesTheTesterOutAndCreatesNothing) {
     const RunResult run = RunProgram({"report", kPivot, "--now", kNow, "--program-dir", folder.Path()});
     EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.out.find("For Further Information Contact:\r\nAlder Creek Farms\r\n"), std::string::npos);
+    EXPECT_NE(run.out.find("For Further Information Contact:\r\nAlder Creek Farms                  \r\n"),
+              std::string::npos);
     EXPECT_TRUE(folder.Names().empty());
 }
 

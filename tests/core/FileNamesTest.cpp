@@ -101,7 +101,7 @@ TEST_F(FileNamesTest, ShowsNamesInTheCodePage) {
 }
 
 TEST_F(FileNamesTest, MatchesExtensionsInAnyCase) {
-    for (const char* path : {"a.cpd", "A.CPD", "/x/y.z/Test 1.CpD", "a.ssd.cpd", "a..cpd"}) {
+    for (const char* path : {"a.cpd", "A.CPD", "/x/y.z/Test 1.CpD", "a.ssd.cpd", "a..cpd", ".cpd"}) {
         EXPECT_TRUE(HasExtension(path, "cpd")) << path;
         EXPECT_TRUE(HasExtension(path, "CPD")) << path;
     }

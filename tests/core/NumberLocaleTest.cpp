@@ -224,7 +224,7 @@ TEST_F(NumberLocaleTest, ASystemWithoutAnEightBitPageHasWindows1252) {
 }
 
 TEST_F(NumberLocaleTest, AMultiByteSystemHasWindows1252) {
-    LocaleEnvironment::Set("LC_ALL", Make("ja_JP", "EUC-JP"));
+    LocaleEnvironment::Set("LC_ALL", Make("de_DE", "EUC-JP"));
     const CodePage page = CodePage::OfSystem();
     EXPECT_FALSE(page.IsOfSystem());
     EXPECT_EQ(page.ToUnicode('\x80'), U'€');

@@ -314,6 +314,26 @@ TEST_P(SafeFileTest, OverwritesInPlaceWhereTheFolderLetsNoFileBeCreated) {
     EXPECT_EQ(folder.Names(), Names{"file"});
 }
 
+// Only root can set the scene: another's file that everybody may write, in a folder whose sticky bit lets
+// nobody else replace it.
+TEST_P(SafeFileTest, OverwritesInPlaceWhereAStickyFolderForbidsReplacing) {
+    PutContents(file, "old");
+    const bool isRoot = ::geteuid() == 0;
+    ASSERT_EQ(::chmod(file.c_str(), 0666), 0);
+    ASSERT_EQ(::chmod(folder.Path().c_str(), 01777), 0);
+    const ino_t before = StatusOf(file).st_ino;
+    if (isRoot) {
+        ASSERT_EQ(::seteuid(65534), 0);
+    }
+    Replace(file, "new");
+    if (isRoot) {
+        ASSERT_EQ(::seteuid(0), 0);
+        EXPECT_EQ(StatusOf(file).st_ino, before);
+    }
+    EXPECT_EQ(Contents(file), "new");
+    EXPECT_EQ(folder.Names(), Names{"file"});
+}
+
 TEST_P(SafeFileTest, KeepsTheOldFileWhenTheDiskIsFull) {
     PutContents(file, "old");
     ASSERT_EQ(::chmod(file.c_str(), 0640), 0);
@@ -404,6 +424,7 @@ TEST_P(SafeFileTest, RaisesWhenTheFolderIsMissing) {
     ExpectNotReplaced(folder / "none/file", ErrorNumber::PathNotFound);
     ExpectNotReplaced(folder / "none/", ErrorNumber::PathNotFound);
     ExpectNotReplaced(file / "x", ErrorNumber::PathNotFound);
+    ExpectNotReplaced("", ErrorNumber::FileNotFound);
     EXPECT_EQ(folder.Names(), Names{"file"});
 }
 
