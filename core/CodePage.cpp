@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/CodePage.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <clocale>
 #include <cstddef>
@@ -167,7 +168,8 @@ std::optional<CodePage> CodePage::Named(const std::string& charset) {
         codePoints[i] = codePoint.value_or(static_cast<char32_t>(kHalf + i));
     }
     CodePage page(codePoints);
-    const bool isOneToOne = page.bytes.size() == kHalf;
+    const bool leavesAscii = std::ranges::all_of(codePoints, [](char32_t each) { return each >= kHalf; });
+    const bool isOneToOne = leavesAscii && page.bytes.size() == kHalf;
     if (isIncomplete || assigned == 0 || !isOneToOne) {
         return std::nullopt;
     }

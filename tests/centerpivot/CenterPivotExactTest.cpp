@@ -1,2 +1,295 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
+#include "tests/centerpivot/ExactPivot.h"
+#include "tests/centerpivot/PivotFixture.h"
+
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <random>
+#include <sstream>
+
+namespace orvel {
+namespace {
+
+using testing::EvaluateExactly;
+using testing::ExactApplicationRate;
+using testing::ExactError;
+using testing::ExactResults;
+using testing::ExactRow;
+using testing::GenerationErrorMessage;
+using testing::ReadDecimal;
+using testing::RoundToDouble;
+using testing::RoundToSingle;
+
+constexpr int kTests = 10'000;
+
+// Random tests as a user might enter them, and a few as no user should. The engine's numbers are the same
+// everywhere; what the library's distributions make of them is not, so there are none here.
+class TestMaker {
+public:
+    CenterPivotTest Make() {
+        CenterPivotTest test;
+        test.GuageDiameter = Rarely(150) ? Faulty() : Decimal(40, 200, 10);
+        test.DistanceToTower = Number(2000, 16000, 10);
+        test.LengthOverhang = Number(0, 800, 10);
+        test.EndGunRadius = Number(0, 1200, 10);
+        test.RadLastSprinkler = Number(10, 700, 10);
+        test.EstFlowRate = Number(1000, 200000, 100);
+        test.MeasuredFlowRate = Number(1000, 200000, 100);
+        test.PercentTimer = Number(10, 1000, 10);
+        test.TravelSpeedFeet = Number(10, 5000, 10);
+        test.TravelSpeedMinutes = Number(0, 60, 1);
+        test.TravelSpeedSeconds = Number(0, 600, 10);
+        test.TotalAcres = Number(1, 6400, 10);
+        MakeCups(test);
+        return test;
+    }
+
+    bool Rarely(std::uint64_t oneIn) { return Below(oneIn) == 0; }
+
+private:
+    std::uint64_t Below(std::uint64_t bound) { return engine() % bound; }
+
+    std::uint64_t From(std::uint64_t first, std::uint64_t last) { return first + Below(last - first + 1); }
+
+    // first / unit to last / unit, with as many decimals as the unit has zeros, or without any.
+    std::string Decimal(std::uint64_t first, std::uint64_t last, std::uint64_t unit) {
+        const std::uint64_t number = From(first, last);
+        std::string text = std::to_string(number / unit);
+        if (unit > 1 && !Rarely(3)) {
+            text += "." + std::to_string(unit + number % unit).substr(1);
+        }
+        return Rarely(8) ? "  " + text + " " : text;
+    }
+
+    std::string Faulty() {
+        constexpr std::array kFaulty = {"0", "0.0", "", "abc", "1.2.3", ".", "-12.5", "1e3", "12 3"};
+        return kFaulty[Below(kFaulty.size())];
+    }
+
+    std::string Number(std::uint64_t first, std::uint64_t last, std::uint64_t unit) {
+        return Rarely(40) ? Faulty() : Rarely(12) ? std::string{} : Decimal(first, last, unit);
+    }
+
+    static float Tenths(std::uint64_t number) { return static_cast<float>(number) / 10.0F; }
+
+    float Volume() {
+        switch (spread) {
+        case 0:
+            return 117.5F;
+        case 1:
+            return Tenths(From(900, 1100));
+        case 2:
+            return static_cast<float>(From(1, 400));
+        default:
+            return Tenths(From(1, 50000));
+        }
+    }
+
+    float Distance(int cup) {
+        switch (placing) {
+        case 0:
+            return static_cast<float>(30 + 20 * cup);
+        case 1:
+            return 185.0F + 22.5F * static_cast<float>(cup);
+        case 2:
+            return Tenths(From(0, 16000));
+        case 3:
+            return static_cast<float>(From(1, 1'000'000)) / 97.0F;
+        default:
+            return 0.0F;
+        }
+    }
+
+    int CupCount() {
+        if (Rarely(200)) {
+            return static_cast<int>(From(299, 300));
+        }
+        return static_cast<int>(Rarely(12) ? From(0, 298) : From(0, 32));
+    }
+
+    void MakeCups(CenterPivotTest& test) {
+        spread = Below(4);
+        placing = Rarely(50) ? 4 : Below(4);
+        const int count = CupCount();
+        const bool cancels = Rarely(200);
+        for (int i = 1; i <= count; ++i) {
+            const bool isDry = i < count && !Rarely(2) && Rarely(8);
+            const float sign = cancels && i % 2 == 0 ? -1.0F : 1.0F;
+            test.Gauges[i].Sequence = static_cast<float>(i);
+            test.Gauges[i].Footage = Distance(i);
+            test.Gauges[i].Volume = isDry ? 0.0F : sign * Volume();
+        }
+    }
+
+    std::mt19937_64 engine{19780815};
+    std::uint64_t spread = 0;
+    std::uint64_t placing = 0;
+};
+
+// Rational numbers know no minus zero.
+std::uint32_t Bits(float value) {
+    return value == 0 ? 0 : std::bit_cast<std::uint32_t>(value);
+}
+
+const char* DescriptionOf(int number) {
+    static const std::map<int, const char*> kDescriptions = {
+        {6, "Overflow"}, {9, "Subscript out of range"}, {11, "Division by zero"}, {13, "Type mismatch"}};
+    return kDescriptions.at(number);
+}
+
+// What differs, one line each; empty when all is equal to the last bit.
+std::string Differences(const CenterPivotResults& actual, const ExactResults& exact) {
+    std::ostringstream text;
+    text.precision(std::numeric_limits<float>::max_digits10);
+    const auto compare = [&text](const std::string& name, float left, float right) {
+        if (Bits(left) != Bits(right)) {
+            text << name << ": " << left << " instead of " << right << "\n";
+        }
+    };
+    compare("CupCount", actual.CupCount, exact.cupCount);
+    compare("MaximumDepth", actual.MaximumDepth, exact.maximumDepth);
+    compare("AverageDepth", actual.AverageDepth, exact.averageDepth);
+    compare("ChristiansenCU", actual.ChristiansenCU, exact.christiansenCU);
+    compare("HeermannHeinCU", actual.HeermannHeinCU, exact.heermannHeinCU);
+    compare("LowQuarterDU", actual.LowQuarterDU, exact.lowQuarterDU);
+    compare("IrrigatedAcres", actual.IrrigatedAcres, exact.irrigatedAcres);
+    compare("CalculatedFlowRate", actual.CalculatedFlowRate, exact.calculatedFlowRate);
+    compare("ApplicationEfficiency", actual.ApplicationEfficiency, exact.applicationEfficiency);
+    for (std::size_t i = 1; i < exact.rows.size(); ++i) {
+        const CupDepth& row = CupDepths()[i];
+        const std::string name = "row " + std::to_string(i);
+        compare(name + " Sequence", row.Sequence, exact.rows.at(i).sequence);
+        compare(name + " Footage", row.Footage, exact.rows.at(i).footage);
+        compare(name + " Depth", row.Depth, exact.rows.at(i).depth);
+    }
+    return text.str();
+}
+
+class CenterPivotExactTest : public testing::PivotTest {
+protected:
+    // Calculates a test and compares everything with the exact evaluation, which it returns.
+    ExactResults Compare(const CenterPivotTest& test, const ExactResults& before) {
+        ExactResults exact = EvaluateExactly(test, before);
+        Test() = test;
+        Program().messageText.clear();
+        std::string expectedText;
+        if (exact.error) {
+            const Message box = GenerationErrorMessage(*exact.error, DescriptionOf(*exact.error));
+            messageBox.Expect(box);
+            expectedText = box.text;
+        }
+        CalculateCenterPivot();
+        EXPECT_EQ(Program().messageText, expectedText);
+        EXPECT_EQ(Differences(PivotResults(), exact), "");
+        return exact;
+    }
+
+    static void CompareRate(const CenterPivotTest& test) {
+        std::optional<float> exact;
+        try {
+            exact = ExactApplicationRate(test);
+        } catch (const ExactError& error) {
+            testing::ExpectRunTimeError(static_cast<ErrorNumber>(error.number),
+                                        [] { std::ignore = ApplicationRateAtLastTower(); });
+            return;
+        }
+        const std::optional<float> actual = ApplicationRateAtLastTower();
+        ASSERT_EQ(actual.has_value(), exact.has_value());
+        EXPECT_EQ(Bits(actual.value_or(0)), Bits(exact.value_or(0)));
+    }
+};
+
+TEST_F(CenterPivotExactTest, RandomTestsAgreeWithTheExactEvaluationToTheLastBit) {
+    TestMaker maker;
+    ExactResults exact;
+    std::map<int, int> endings;
+    int flowRates = 0;
+    int keptAcres = 0;
+    for (int i = 0; i < kTests && !HasFailure(); ++i) {
+        SCOPED_TRACE("test " + std::to_string(i));
+        const CenterPivotTest test = maker.Make();
+        if (maker.Rarely(2)) {
+            ResetCenterPivot();
+            exact = {};
+        }
+        const float acresBefore = exact.irrigatedAcres;
+        exact = Compare(test, exact);
+        CompareRate(test);
+        ++endings[exact.error.value_or(0)];
+        flowRates += !exact.error && exact.calculatedFlowRate > 0 ? 1 : 0;
+        keptAcres += !exact.error && exact.irrigatedAcres > 0 && exact.irrigatedAcres == acresBefore ? 1 : 0;
+    }
+    // The sample is worth something: every kind of ending, most tests well formed, acres kept now and then.
+    EXPECT_GT(endings[0], kTests * 7 / 10);
+    EXPECT_GT(endings[6], 100);
+    EXPECT_GT(endings[9], 10);
+    EXPECT_GT(endings[11], 10);
+    EXPECT_GT(endings[13], 100);
+    EXPECT_GT(flowRates, kTests / 4);
+    EXPECT_GT(keptAcres, 100);
+}
+
+TEST_F(CenterPivotExactTest, LongListsOfWidelySpreadCupsAgreeToTheLastBit) {
+    FillTest();
+    for (const int count : {2, 3, 5, 6, 7, 13, 50, 99, 150, 297, 298}) {
+        SCOPED_TRACE(count);
+        CenterPivotTest test = Test();
+        test.Gauges = {};
+        for (int i = 1; i <= count; ++i) {
+            // 0.1 to 5000 cc over the list, in an order that no sort likes.
+            const int place = i * 151 % 307;
+            test.Gauges[i].Volume = 0.1F * std::pow(50000.0F, static_cast<float>(place) / 307.0F);
+            test.Gauges[i].Footage = 185.0F + 4.7F * static_cast<float>(i);
+        }
+        const ExactResults exact = Compare(test, {});
+        EXPECT_EQ(exact.error, std::nullopt);
+        EXPECT_EQ(exact.cupCount, count);
+        ResetCenterPivot();
+    }
+}
+
+TEST(ExactPivot, RoundsToTheNearestAndTiesToEven) {
+    const mpq_class two24(16777216);
+    EXPECT_EQ(RoundToSingle(two24 + 1), 16777216.0F);
+    EXPECT_EQ(RoundToSingle(two24 + 3), 16777220.0F);
+    EXPECT_EQ(RoundToSingle(-(two24 + 3)), -16777220.0F);
+    EXPECT_EQ(RoundToSingle(two24 + 1 + mpq_class(1, 1'000'000'000)), 16777218.0F);
+    EXPECT_EQ(RoundToSingle(two24 - 1), 16777215.0F);
+    EXPECT_EQ(RoundToSingle(mpq_class(1, 3)), 1.0F / 3.0F);
+    EXPECT_EQ(RoundToSingle(ReadDecimal("0.1")), 0.1F);
+    EXPECT_EQ(RoundToDouble(ReadDecimal("0.1")), 0.1);
+    EXPECT_EQ(RoundToDouble(ReadDecimal("9007199254740993")), 9007199254740992.0);
+    EXPECT_EQ(RoundToSingle(0), 0.0F);
+}
+
+TEST(ExactPivot, RoundsAtTheEndsOfTheRange) {
+    constexpr float kSmallest = std::numeric_limits<float>::denorm_min();
+    constexpr float kLargest = std::numeric_limits<float>::max();
+    const mpq_class smallest(kSmallest);
+    EXPECT_EQ(RoundToSingle(smallest / 2), 0.0F);
+    EXPECT_EQ(RoundToSingle(smallest * 3 / 4), kSmallest);
+    EXPECT_EQ(RoundToSingle(smallest * 3 / 2), 2 * kSmallest);
+    EXPECT_EQ(RoundToSingle(mpq_class(kLargest)), kLargest);
+    EXPECT_THROW(std::ignore = RoundToSingle(ReadDecimal("3.4028236e38")), ExactError);
+    EXPECT_EQ(RoundToDouble(mpq_class(5e-324)), 5e-324);
+    EXPECT_THROW(std::ignore = RoundToDouble(ReadDecimal("1.8e308")), ExactError);
+}
+
+TEST(ExactPivot, ReadsDecimals) {
+    EXPECT_EQ(ReadDecimal("  12.50 "), mpq_class(25, 2));
+    EXPECT_EQ(ReadDecimal("-.5"), mpq_class(-1, 2));
+    EXPECT_EQ(ReadDecimal("+5."), mpq_class(5));
+    EXPECT_EQ(ReadDecimal("1e3"), mpq_class(1000));
+    EXPECT_EQ(ReadDecimal("25E-1"), mpq_class(5, 2));
+    for (const char* text : {"", ".", "abc", "1.2.3", "12 3", "-"}) {
+        EXPECT_THROW(std::ignore = ReadDecimal(text), ExactError) << text;
+    }
+}
+
+} // namespace
+} // namespace orvel

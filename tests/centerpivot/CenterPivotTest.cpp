@@ -1,2 +1,652 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
+#include "centerpivot/CenterPivot.h"
+
+#include "tests/centerpivot/PivotFixture.h"
+
+#include <array>
+#include <bit>
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace orvel {
+namespace {
+
+using testing::ExpectRunTimeError;
+using testing::GenerationErrorMessage;
+using testing::NumberField;
+
+constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
+constexpr float kInfinity = std::numeric_limits<float>::infinity();
+constexpr const char* kTitle = "Center Pivot Water Application Uniformity Test";
+
+// What an earlier calculation left, told apart from anything these tests compute.
+constexpr float kEarlier = -77.0F;
+
+class CenterPivotCalculation : public testing::PivotTest {
+protected:
+    static CenterPivotResults& Results() { return PivotResults(); }
+
+    static void LeaveEarlierResults() {
+        Results().ReportTitle = "earlier";
+        Results().CupCount = 7;
+        for (float CenterPivotResults::*result : kSingles) {
+            Results().*result = kEarlier;
+        }
+    }
+
+    // The first `count` of the results, in the order of their steps, are new; the others are the earlier
+    // ones.
+    static void ExpectComputed(std::size_t count) {
+        for (std::size_t i = 0; i < kSingles.size(); ++i) {
+            EXPECT_EQ(Results().*kSingles.at(i) != kEarlier, i < count) << "result " << i;
+        }
+    }
+
+    void CalculateWith(int number, const std::string& description) {
+        messageBox.Expect(GenerationErrorMessage(number, description));
+        CalculateCenterPivot();
+    }
+
+    void CalculateWithOverflow() { CalculateWith(6, "Overflow"); }
+
+    void CalculateWithDivisionByZero() { CalculateWith(11, "Division by zero"); }
+
+    void CalculateWithTypeMismatch() { CalculateWith(13, "Type mismatch"); }
+
+    static constexpr std::array kSingles = {
+        &CenterPivotResults::MaximumDepth,       &CenterPivotResults::AverageDepth,
+        &CenterPivotResults::ChristiansenCU,     &CenterPivotResults::LowQuarterDU,
+        &CenterPivotResults::HeermannHeinCU,     &CenterPivotResults::IrrigatedAcres,
+        &CenterPivotResults::CalculatedFlowRate, &CenterPivotResults::ApplicationEfficiency,
+    };
+};
+
+TEST_F(CenterPivotCalculation, FillsEveryResult) {
+    FillTest();
+    LeaveEarlierResults();
+    CalculateCenterPivot();
+    ExpectComputed(8);
+    EXPECT_EQ(Results().ReportTitle.Whole(), kTitle + std::string(34, ' '));
+    EXPECT_EQ(Results().CupCount, 8);
+    // 800 cc in eight cups of 10 cm: 100 cc on average, 120 cc at most, 70 cc off the average together.
+    EXPECT_FLOAT_EQ(Results().AverageDepth, 0.50127542F);
+    EXPECT_FLOAT_EQ(Results().MaximumDepth, 0.6015305F);
+    EXPECT_FLOAT_EQ(Results().ChristiansenCU, 91.25F);
+    // The two lowest of eight are 80 and 90 cc.
+    EXPECT_FLOAT_EQ(Results().LowQuarterDU, 85.0F);
+    EXPECT_EQ(Results().IrrigatedAcres, 151.634491F);
+    EXPECT_FLOAT_EQ(Results().ApplicationEfficiency, Results().CalculatedFlowRate / 1000.0F);
+}
+
+TEST_F(CenterPivotCalculation, WeighsHeermannAndHeinByTheDistance) {
+    Test().GuageDiameter = "10";
+    SetCups({80, 100, 120, 100}, {10, 20, 30, 40});
+    CalculateCenterPivot();
+    // Weighted mean 10400 / 100 = 104; deviations 24 x 10 + 4 x 20 + 16 x 30 + 4 x 40 = 960.
+    EXPECT_FLOAT_EQ(Results().HeermannHeinCU, (1.0F - 960.0F / 10400.0F) * 100.0F);
+    EXPECT_FLOAT_EQ(Results().ChristiansenCU, 90.0F);
+    SetCups({80, 100, 120, 100}, {40, 30, 20, 10});
+    CalculateCenterPivot();
+    // Weighted mean 9600 / 100 = 96; deviations 16 x 40 + 4 x 30 + 24 x 20 + 4 x 10 = 1280.
+    EXPECT_FLOAT_EQ(Results().HeermannHeinCU, (1.0F - 1280.0F / 9600.0F) * 100.0F);
+    EXPECT_FLOAT_EQ(Results().ChristiansenCU, 90.0F);
+}
+
+TEST_F(CenterPivotCalculation, CountsUpToTheFirstPairOfZeroVolumes) {
+    struct Case {
+        std::vector<float> volumes;
+        std::int16_t count;
+        float average; // of the volumes
+    };
+    const std::array cases = {
+        Case{{5, 0, 6, 0, 0}, 3, 11.0F / 3.0F},
+        Case{{5}, 1, 5},
+        Case{{0, 8}, 2, 4},
+        Case{{5, 7, 0, 0, 9, 9}, 2, 6},
+        Case{{4, 0, 4, 0, 4, 0, 4}, 7, 16.0F / 7.0F},
+        Case{std::vector<float>(298, 3.0F), 298, 3},
+    };
+    Test().GuageDiameter = "10";
+    for (const Case& row : cases) {
+        SetVolumes(row.volumes);
+        CalculateCenterPivot();
+        EXPECT_EQ(Results().CupCount, row.count);
+        EXPECT_FLOAT_EQ(Results().AverageDepth, row.average * 0.0050127542F) << row.count;
+    }
+}
+
+TEST_F(CenterPivotCalculation, ReachesEntry301With299And300Readings) {
+    FillTest();
+    for (const int readings : {299, 300}) {
+        SCOPED_TRACE(readings);
+        SetEqualVolumes(readings);
+        LeaveEarlierResults();
+        CalculateWith(9, "Subscript out of range");
+        EXPECT_EQ(Results().ReportTitle.Trimmed(), kTitle);
+        EXPECT_EQ(Results().CupCount, 7) << "the earlier test's";
+        ExpectComputed(0);
+    }
+}
+
+TEST_F(CenterPivotCalculation, LooksBehindTheLastEntryThoughOnlyThatIsMissing) {
+    SetEqualVolumes(298);
+    Test().Gauges[300].Volume = 5;
+    CalculateWith(9, "Subscript out of range");
+}
+
+TEST_F(CenterPivotCalculation, WithoutCupsDividesZeroByZero) {
+    FillTest();
+    SetVolumes({0, 0, 5, 6});
+    Test().GuageDiameter = "no cup reads this";
+    LeaveEarlierResults();
+    Row(1).Depth = 3.5F;
+    CalculateWithOverflow();
+    EXPECT_EQ(Results().CupCount, 0);
+    EXPECT_EQ(Results().MaximumDepth, 3.5F) << "whatever row 1 holds";
+    ExpectComputed(1);
+}
+
+TEST_F(CenterPivotCalculation, SpreadsAVolumeOverTheCupsOpening) {
+    struct Case {
+        const char* diameter;
+        float volume;
+        float depth;
+    };
+    constexpr std::array kCases = {
+        Case{"10", 100, 0.50127542F}, Case{" 10.0 ", 200, 1.0025508F}, Case{"-10", 100, 0.50127542F},
+        Case{"20", 100, 0.12531886F}, Case{"5", 100, 2.0051017F},      Case{"10", -100, -0.50127542F},
+    };
+    for (const Case& row : kCases) {
+        Test().GuageDiameter = row.diameter;
+        SetVolumes({row.volume});
+        CalculateCenterPivot();
+        EXPECT_EQ(Row(1).Depth, row.depth) << row.diameter << " cm, " << row.volume << " cc";
+        EXPECT_EQ(Results().MaximumDepth, row.depth);
+    }
+    EXPECT_EQ(std::lround(0.50127542F * 1e5F), 50128);
+}
+
+TEST_F(CenterPivotCalculation, CopiesPositionAndDistanceAndKeepsTheRowsAbove) {
+    Test().GuageDiameter = "10";
+    SetCups({10, 20, 30, 40}, {5, 6.5F, 7, 8});
+    CalculateCenterPivot();
+    SetCups({50, 60}, {1, 2.25F});
+    Test().Gauges[2].Sequence = 12;
+    CalculateCenterPivot();
+    EXPECT_EQ(Row(2).Sequence, 12.0F);
+    EXPECT_EQ(Row(2).Footage, 2.25F);
+    EXPECT_FLOAT_EQ(Row(2).Depth, 0.30076525F);
+    EXPECT_EQ(Row(3).Footage, 7.0F) << "the earlier test's";
+    EXPECT_FLOAT_EQ(Row(4).Depth, 0.20051017F);
+    EXPECT_EQ(Row(0).Depth, 0.0F);
+}
+
+TEST_F(CenterPivotCalculation, StopsAtACupThatHasNoDepth) {
+    struct Case {
+        const char* diameter;
+        float firstVolume;
+        int number;
+        const char* description;
+    };
+    constexpr std::array kCases = {
+        Case{"", 5, 13, "Type mismatch"},      Case{"abc", 5, 13, "Type mismatch"},
+        Case{"0", 5, 11, "Division by zero"},  Case{"0.0", 0, 6, "Overflow"},
+        Case{"10", kNaN, 6, "Overflow"},       Case{"10", kInfinity, 6, "Overflow"},
+        Case{"0.00001", 1e38F, 6, "Overflow"},
+    };
+    for (const Case& row : kCases) {
+        SCOPED_TRACE(row.diameter);
+        FillTest();
+        SetCups({row.firstVolume, 6}, {11, 22});
+        Test().GuageDiameter = row.diameter;
+        LeaveEarlierResults();
+        Row(1) = {91, 92, 93};
+        Row(2) = {94, 95, 96};
+        CalculateWith(row.number, row.description);
+        EXPECT_EQ(Results().CupCount, 2);
+        EXPECT_EQ(Row(1).Sequence, 1.0F);
+        EXPECT_EQ(Row(1).Footage, 11.0F);
+        EXPECT_EQ(Row(1).Depth, 93.0F);
+        EXPECT_EQ(Row(2).Footage, 95.0F);
+        ExpectComputed(0);
+    }
+}
+
+TEST_F(CenterPivotCalculation, FindsTheLargestDepthWhereverItStands) {
+    Test().GuageDiameter = "10";
+    for (const std::vector<float>& volumes : {std::vector<float>{200, 1, 2}, {1, 200, 2}, {1, 2, 200}}) {
+        SetVolumes(volumes);
+        CalculateCenterPivot();
+        EXPECT_EQ(Results().MaximumDepth, 1.0025508F);
+    }
+    SetVolumes({-300, -200});
+    CalculateCenterPivot();
+    EXPECT_EQ(Results().MaximumDepth, -1.0025508F) << "it starts from row 1, not from 0";
+}
+
+TEST_F(CenterPivotCalculation, EqualDepthsAreExactlyUniform) {
+    struct Case {
+        int cups;
+        float lowQuarter; // the nearest whole number of quarters over the quarter itself
+    };
+    constexpr std::array kCases = {
+        Case{1, 0},          Case{2, 0},          Case{3, 400.0F / 3.0F}, Case{4, 100},
+        Case{5, 80},         Case{6, 800.0F / 6}, Case{7, 800.0F / 7},    Case{8, 100},
+        Case{9, 800.0F / 9}, Case{10, 80},        Case{14, 1600.0F / 14}, Case{100, 100},
+        Case{296, 100},
+    };
+    for (const char* diameter : {"10", "11.195", "7.3"}) {
+        Test().GuageDiameter = diameter;
+        for (const Case& row : kCases) {
+            SetEqualVolumes(row.cups);
+            CalculateCenterPivot();
+            EXPECT_EQ(Results().ChristiansenCU, 100.0F) << row.cups;
+            EXPECT_EQ(Results().HeermannHeinCU, 100.0F) << row.cups;
+            EXPECT_EQ(Results().LowQuarterDU, row.lowQuarter) << row.cups;
+            EXPECT_EQ(Results().AverageDepth, Results().MaximumDepth) << row.cups;
+        }
+    }
+}
+
+TEST_F(CenterPivotCalculation, TakesTheLowQuarterFromTheUnroundedQuarter) {
+    Test().GuageDiameter = "10";
+    // The two lowest, 60 and 70, over 2.5, over the average of 100.
+    SetVolumes({110, 60, 120, 100, 130, 70, 110, 100, 90, 110});
+    CalculateCenterPivot();
+    EXPECT_FLOAT_EQ(Results().LowQuarterDU, 52.0F);
+    EXPECT_FLOAT_EQ(Row(1).Depth, 0.55140298F) << "the depths themselves stay in their order";
+}
+
+TEST_F(CenterPivotCalculation, VolumesThatCancelOutEndItAfterTheAverage) {
+    FillTest();
+    SetVolumes({5, -5});
+    LeaveEarlierResults();
+    CalculateWithDivisionByZero();
+    EXPECT_EQ(Results().AverageDepth, 0.0F);
+    ExpectComputed(2);
+}
+
+TEST_F(CenterPivotCalculation, DistancesThatCannotWeighEndItInHeermannAndHein) {
+    struct Case {
+        std::vector<float> distances;
+        int number;
+        const char* description;
+    };
+    const std::array cases = {
+        Case{{0, 0}, 6, "Overflow"},    Case{{10, -10}, 11, "Division by zero"},
+        Case{{1, -2}, 6, "Overflow"}, // the products cancel out, and so do the deviations
+        Case{{kNaN, 5}, 6, "Overflow"}, Case{{5, kInfinity}, 6, "Overflow"},
+    };
+    for (const Case& row : cases) {
+        FillTest();
+        SetCups({200, 100}, row.distances);
+        Test().DistanceToTower = " 1380";
+        LeaveEarlierResults();
+        CalculateWith(row.number, row.description);
+        ExpectComputed(4);
+        EXPECT_EQ(Results().CalculatedFlowRate, kEarlier) << "zeroed only by its own step";
+        EXPECT_EQ(Test().DistanceToTower.Whole().substr(0, 5), " 1380") << "trimmed only by its own step";
+        EXPECT_EQ(std::bit_cast<std::uint32_t>(static_cast<float>(Row(2).Footage)),
+                  std::bit_cast<std::uint32_t>(row.distances[1]));
+    }
+}
+
+TEST_F(CenterPivotCalculation, KeepsANaNDistanceBitForBit) {
+    FillTest();
+    Test().Gauges[1].Footage = std::bit_cast<float>(0x7fc01234U);
+    CalculateWithOverflow();
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(static_cast<float>(Row(1).Footage)), 0x7fc01234U);
+}
+
+TEST_F(CenterPivotCalculation, TrimsTheLengthsAlsoWhenOneIsBlank) {
+    FillTest();
+    Test().DistanceToTower = "  1380 ";
+    Test().LengthOverhang = "                  ";
+    Test().EndGunRadius = " 30";
+    CalculateCenterPivot();
+    EXPECT_EQ(Test().DistanceToTower.Whole(), "1380                ");
+    EXPECT_EQ(Test().EndGunRadius.Whole(), "30                  ");
+    EXPECT_EQ(Results().IrrigatedAcres, 0.0F);
+}
+
+TEST_F(CenterPivotCalculation, LeavesFieldsItOnlyReadsAsTheyStand) {
+    FillTest();
+    for (NumberField field :
+         {&CenterPivotTest::GuageDiameter, &CenterPivotTest::PercentTimer, &CenterPivotTest::TravelSpeedFeet,
+          &CenterPivotTest::TravelSpeedMinutes, &CenterPivotTest::TravelSpeedSeconds}) {
+        Test().*field = " 10";
+    }
+    CalculateCenterPivot();
+    EXPECT_GT(Results().CalculatedFlowRate, 0.0F);
+    for (NumberField field :
+         {&CenterPivotTest::GuageDiameter, &CenterPivotTest::PercentTimer, &CenterPivotTest::TravelSpeedFeet,
+          &CenterPivotTest::TravelSpeedMinutes, &CenterPivotTest::TravelSpeedSeconds}) {
+        EXPECT_EQ((Test().*field).Whole().substr(0, 3), " 10");
+    }
+}
+
+TEST_F(CenterPivotCalculation, KeepsAnEarlierTestsAcresWhenALengthIsBlank) {
+    constexpr std::array kLengths = {&CenterPivotTest::DistanceToTower, &CenterPivotTest::LengthOverhang,
+                                     &CenterPivotTest::EndGunRadius};
+    for (NumberField length : kLengths) {
+        FillTest();
+        CalculateCenterPivot();
+        const float flow = Results().CalculatedFlowRate;
+        ASSERT_EQ(Results().IrrigatedAcres, 151.634491F);
+        Test().*length = "";
+        // A blank length is the only one that is looked at.
+        Test().EndGunRadius = length == &CenterPivotTest::EndGunRadius ? "" : "abc";
+        CalculateCenterPivot();
+        EXPECT_EQ(Results().IrrigatedAcres, 151.634491F);
+        EXPECT_EQ(Results().CalculatedFlowRate, length == kLengths[0] ? 0.0F : flow) << "uses the kept acres";
+        ResetCenterPivot();
+        CalculateCenterPivot();
+        EXPECT_EQ(Results().IrrigatedAcres, 0.0F);
+    }
+}
+
+TEST_F(CenterPivotCalculation, AFaultyLengthEndsItBeforeTheFlowRate) {
+    for (NumberField length : {&CenterPivotTest::DistanceToTower, &CenterPivotTest::LengthOverhang,
+                               &CenterPivotTest::EndGunRadius}) {
+        FillTest();
+        Test().*length = "1.2.3";
+        LeaveEarlierResults();
+        CalculateWithTypeMismatch();
+        ExpectComputed(5);
+    }
+    FillTest();
+    Test().DistanceToTower = "3e38";
+    Test().LengthOverhang = "3e38";
+    LeaveEarlierResults();
+    CalculateWithOverflow();
+    ExpectComputed(5);
+}
+
+TEST_F(CenterPivotCalculation, SumsTheLengthsAsSinglesInTheirOrder) {
+    FillTest();
+    Test().DistanceToTower = "16777216";
+    Test().LengthOverhang = "1";
+    Test().EndGunRadius = "1";
+    CalculateCenterPivot();
+    EXPECT_EQ(Results().IrrigatedAcres, 20300269568.0F);
+    Test().DistanceToTower = "1";
+    Test().EndGunRadius = "16777216";
+    CalculateCenterPivot();
+    EXPECT_EQ(Results().IrrigatedAcres, 20300273664.0F);
+}
+
+TEST_F(CenterPivotCalculation, ReadsEntriesByTheLocaleAndPlainNumbersAlways) {
+    FillTest();
+    CalculateCenterPivot();
+    const float depth = Results().AverageDepth;
+    UseNumberLocale(testing::GermanNumbers());
+    Test().GuageDiameter = "10,0";
+    Test().DistanceToTower = "1.380";
+    Test().LengthOverhang = "40.0";
+    CalculateCenterPivot();
+    EXPECT_EQ(Results().AverageDepth, depth);
+    EXPECT_NEAR(Results().IrrigatedAcres, 0.36746, 0.00001) << "1.380 is a plain number";
+    Test().DistanceToTower = "1.380,0";
+    CalculateCenterPivot();
+    EXPECT_EQ(Results().IrrigatedAcres, 151.634491F);
+}
+
+TEST_F(CenterPivotCalculation, ResetsToProgramStart) {
+    FillTest();
+    CalculateCenterPivot();
+    ResetCenterPivot();
+    EXPECT_EQ(Results().ReportTitle.Whole(), std::string(80, ' '));
+    EXPECT_EQ(Results().CupCount, 0);
+    for (float CenterPivotResults::*result : kSingles) {
+        EXPECT_EQ(Results().*result, 0.0F);
+    }
+    for (int row = 0; row <= 300; ++row) {
+        EXPECT_EQ(Row(row).Sequence + Row(row).Footage + Row(row).Depth, 0.0F);
+    }
+}
+
+TEST(CenterPivotFormulas, AcresAreTheAreaOfACircle) {
+    EXPECT_EQ(AcresFromRadius(0), 0.0F);
+    EXPECT_EQ(AcresFromRadius(1000), 72.12104F);
+    EXPECT_EQ(AcresFromRadius(117.75F), 0.99996275F);
+    EXPECT_EQ(AcresFromRadius(-1000), 72.12104F);
+    ExpectRunTimeError(ErrorNumber::Overflow, [] { std::ignore = AcresFromRadius(3e38F); });
+}
+
+TEST(CenterPivotFormulas, AFlowPutsADepthOnAnAreaInATime) {
+    EXPECT_EQ(FlowRateFromDepth(1, 1, 1), 453.0F);
+    EXPECT_EQ(FlowRateFromDepth(100, 0.5F, 4), 5662.5F);
+    EXPECT_EQ(FlowRateFromDepth(0, 1, 1), 0.0F);
+    ExpectRunTimeError(ErrorNumber::DivisionByZero, [] { std::ignore = FlowRateFromDepth(1, 1, 0); });
+    ExpectRunTimeError(ErrorNumber::Overflow, [] { std::ignore = FlowRateFromDepth(0, 1, 0); });
+    ExpectRunTimeError(ErrorNumber::Overflow, [] { std::ignore = FlowRateFromDepth(3e38F, 3e38F, 1); });
+}
+
+// The steps behind the uniformity, each run by itself: one inch on one acre, 100 feet in 10 minutes at 50 %.
+class CenterPivotFlow : public testing::PivotTest {
+protected:
+    CenterPivotFlow() { Restart(); }
+
+    static void Restart() {
+        ResetCenterPivot();
+        PivotResults().AverageDepth = 1;
+        Test() = {};
+        Test().PercentTimer = "50";
+        Test().DistanceToTower = "1000";
+        Test().TravelSpeedFeet = "100";
+        Test().TravelSpeedMinutes = "10";
+        Test().TravelSpeedSeconds = "0";
+        Test().TotalAcres = "1";
+        Test().LengthOverhang = "40";
+        Test().RadLastSprinkler = "35";
+    }
+
+    static float Flow() {
+        PivotResults().CalculatedFlowRate = 0;
+        ComputeFlowRate();
+        return PivotResults().CalculatedFlowRate;
+    }
+
+    static float Efficiency() {
+        PivotResults().ApplicationEfficiency = 0;
+        ComputeEfficiency();
+        return PivotResults().ApplicationEfficiency;
+    }
+
+    static std::string_view Beginning(const FixedText<20>& field) { return field.Whole().substr(0, 4); }
+};
+
+TEST_F(CenterPivotFlow, ComesFromTheTimeOfARevolution) {
+    // 600 ft/h, 1200 ft/h at 100 %, 6283.19 ft around, 5.236 h at 100 %, 10.472 h at 50 %.
+    EXPECT_EQ(Flow(), 43.258312F);
+    EXPECT_NEAR(453.0F / Flow(), 10.472, 0.0005);
+    Test().TotalAcres = "100";
+    PivotResults().AverageDepth = 0.5F;
+    EXPECT_EQ(Flow(), 2162.9155F);
+    Test().PercentTimer = "100";
+    EXPECT_EQ(Flow(), 2162.9155F) << "the timer cancels out at a given travel speed";
+}
+
+TEST_F(CenterPivotFlow, AddsTheSecondsToTheMinutes) {
+    Test().TravelSpeedMinutes = "9.5";
+    Test().TravelSpeedSeconds = "30";
+    EXPECT_FLOAT_EQ(Flow(), 43.258312F);
+    Test().TravelSpeedMinutes = "0";
+    Test().TravelSpeedSeconds = "600";
+    EXPECT_FLOAT_EQ(Flow(), 43.258312F);
+}
+
+TEST_F(CenterPivotFlow, IsSilentlyZeroWhenAnEntryIsBlankFaultyOrZero) {
+    struct Case {
+        NumberField field;
+        bool canBeZero;
+    };
+    constexpr std::array kCases = {
+        Case{&CenterPivotTest::PercentTimer, false},      Case{&CenterPivotTest::DistanceToTower, false},
+        Case{&CenterPivotTest::TravelSpeedFeet, false},   Case{&CenterPivotTest::TravelSpeedMinutes, false},
+        Case{&CenterPivotTest::TravelSpeedSeconds, true}, Case{&CenterPivotTest::TotalAcres, false},
+    };
+    for (const Case& row : kCases) {
+        for (const char* entry : {"", "abc", "1.2.3", "0"}) {
+            Restart();
+            Test().*row.field = entry;
+            EXPECT_EQ(Flow() > 0, row.canBeZero && std::string(entry) == "0") << entry;
+        }
+    }
+    Restart();
+    PivotResults().AverageDepth = 0;
+    EXPECT_EQ(Flow(), 0.0F);
+    PivotResults().AverageDepth = kNaN;
+    EXPECT_EQ(Flow(), 0.0F);
+}
+
+TEST_F(CenterPivotFlow, LeavesItsResultAsItIsWhenItFails) {
+    Test().PercentTimer = "";
+    PivotResults().CalculatedFlowRate = 5;
+    ComputeFlowRate();
+    EXPECT_EQ(PivotResults().CalculatedFlowRate, 5.0F);
+    Test().MeasuredFlowRate = "abc";
+    PivotResults().ApplicationEfficiency = 6;
+    ComputeEfficiency();
+    EXPECT_EQ(PivotResults().ApplicationEfficiency, 6.0F);
+    // One that merely can't be computed is 0 by itself.
+    Test().PercentTimer = "50";
+    Test().TotalAcres = "";
+    ComputeFlowRate();
+    EXPECT_EQ(PivotResults().CalculatedFlowRate, 0.0F);
+    Test().MeasuredFlowRate = "";
+    ComputeEfficiency();
+    EXPECT_EQ(PivotResults().ApplicationEfficiency, 0.0F);
+}
+
+TEST_F(CenterPivotFlow, PrefersIrrigatedAcresToTheEstimate) {
+    PivotResults().IrrigatedAcres = 2;
+    EXPECT_FLOAT_EQ(Flow(), 2 * 43.258312F);
+    Test().TotalAcres = "";
+    EXPECT_FLOAT_EQ(Flow(), 2 * 43.258312F);
+    Test().TotalAcres = "abc";
+    EXPECT_EQ(Flow(), 0.0F) << "the estimate is read in any case";
+    Test().TotalAcres = "1";
+    PivotResults().IrrigatedAcres = -2;
+    EXPECT_FLOAT_EQ(Flow(), 43.258312F);
+    PivotResults().IrrigatedAcres = kNaN;
+    EXPECT_FLOAT_EQ(Flow(), 43.258312F);
+}
+
+TEST_F(CenterPivotFlow, TrimsTheEstimatedAcresWhenItGetsThere) {
+    Test().TotalAcres = "  1";
+    Test().PercentTimer = "";
+    EXPECT_EQ(Flow(), 0.0F);
+    EXPECT_EQ(Beginning(Test().TotalAcres), "  1 ");
+    Test().PercentTimer = "50";
+    EXPECT_GT(Flow(), 0.0F);
+    EXPECT_EQ(Beginning(Test().TotalAcres), "1   ");
+}
+
+TEST_F(CenterPivotFlow, EfficiencyComparesWithTheMeasuredFlowElseTheEstimate) {
+    PivotResults().CalculatedFlowRate = 800;
+    EXPECT_EQ(Efficiency(), 0.0F) << "no flow rate";
+    Test().EstFlowRate = " 1600";
+    EXPECT_EQ(Efficiency(), 0.5F);
+    Test().MeasuredFlowRate = " 1000";
+    EXPECT_EQ(Efficiency(), 0.8F);
+    EXPECT_EQ(Beginning(Test().EstFlowRate), "1600");
+    EXPECT_EQ(Beginning(Test().MeasuredFlowRate), "1000");
+    Test().EstFlowRate = "";
+    EXPECT_EQ(Efficiency(), 0.8F);
+    Test().MeasuredFlowRate = "0";
+    EXPECT_EQ(Efficiency(), 0.0F);
+    Test().EstFlowRate = "1600";
+    EXPECT_EQ(Efficiency(), 0.0F) << "a measured flow of 0 wins, too";
+    PivotResults().CalculatedFlowRate = 0;
+    Test().MeasuredFlowRate = "1000";
+    EXPECT_EQ(Efficiency(), 0.0F);
+}
+
+TEST_F(CenterPivotFlow, EfficiencyIsSilentlyZeroWhenAFlowRateIsFaulty) {
+    PivotResults().CalculatedFlowRate = 800;
+    Test().EstFlowRate = " abc";
+    Test().MeasuredFlowRate = " 1000";
+    EXPECT_EQ(Efficiency(), 0.0F) << "the estimate is read first";
+    EXPECT_EQ(Beginning(Test().EstFlowRate), "abc ");
+    EXPECT_EQ(Beginning(Test().MeasuredFlowRate), " 100");
+    Test().EstFlowRate = "1000";
+    Test().MeasuredFlowRate = "abc";
+    EXPECT_EQ(Efficiency(), 0.0F);
+    Test().MeasuredFlowRate = "1e-40";
+    EXPECT_EQ(Efficiency(), 0.0F) << "overflows";
+}
+
+TEST_F(CenterPivotFlow, BothAreZeroedByTheCalculationJustBeforeTheirSteps) {
+    FillTest();
+    CalculateCenterPivot();
+    ASSERT_GT(PivotResults().ApplicationEfficiency, 0.0F);
+    // The checks ask for no seconds, the flow rate needs them.
+    Test().TravelSpeedSeconds = "";
+    CalculateCenterPivot();
+    EXPECT_EQ(PivotResults().CalculatedFlowRate, 0.0F);
+    EXPECT_EQ(PivotResults().ApplicationEfficiency, 0.0F);
+    Test().TravelSpeedSeconds = "0";
+    Test().MeasuredFlowRate = "abc";
+    CalculateCenterPivot();
+    EXPECT_GT(PivotResults().CalculatedFlowRate, 0.0F);
+    EXPECT_EQ(PivotResults().ApplicationEfficiency, 0.0F);
+}
+
+TEST_F(CenterPivotFlow, ApplicationRateOfTheLastTower) {
+    Test().DistanceToTower = " 1380";
+    Test().LengthOverhang = " 40";
+    Test().RadLastSprinkler = " 35";
+    Test().EstFlowRate = "900";
+    EXPECT_EQ(ApplicationRateAtLastTower(), 2.2183099F);
+    Test().MeasuredFlowRate = "1000";
+    EXPECT_EQ(ApplicationRateAtLastTower(), 2.4647887F);
+    EXPECT_EQ(Beginning(Test().DistanceToTower), "1380");
+    EXPECT_EQ(Beginning(Test().LengthOverhang), "40  ");
+    EXPECT_EQ(Beginning(Test().RadLastSprinkler), "35  ");
+    Test().DistanceToTower = "16777216";
+    Test().LengthOverhang = "1";
+    Test().RadLastSprinkler = "1";
+    EXPECT_EQ(ApplicationRateAtLastTower(), 0.0073015690F) << "the lengths are summed as a Single";
+}
+
+TEST_F(CenterPivotFlow, HasNoApplicationRateWhenSomethingIsMissing) {
+    constexpr std::array kFields = {&CenterPivotTest::MeasuredFlowRate, &CenterPivotTest::DistanceToTower,
+                                    &CenterPivotTest::LengthOverhang, &CenterPivotTest::RadLastSprinkler};
+    for (NumberField blank : kFields) {
+        Restart();
+        Test().MeasuredFlowRate = "1000";
+        ASSERT_TRUE(ApplicationRateAtLastTower());
+        Test().*blank = "   ";
+        EXPECT_FALSE(ApplicationRateAtLastTower());
+    }
+    Restart();
+    Test().MeasuredFlowRate = "0";
+    Test().EstFlowRate = "900";
+    EXPECT_FALSE(ApplicationRateAtLastTower());
+}
+
+TEST_F(CenterPivotFlow, ApplicationRateTrapsNothing) {
+    constexpr std::array kFields = {&CenterPivotTest::EstFlowRate, &CenterPivotTest::MeasuredFlowRate,
+                                    &CenterPivotTest::DistanceToTower, &CenterPivotTest::LengthOverhang,
+                                    &CenterPivotTest::RadLastSprinkler};
+    const auto rate = [] { std::ignore = ApplicationRateAtLastTower(); };
+    for (NumberField faulty : kFields) {
+        Restart();
+        Test().MeasuredFlowRate = "1000";
+        Test().*faulty = "abc";
+        ExpectRunTimeError(ErrorNumber::TypeMismatch, rate);
+    }
+    Restart();
+    Test().MeasuredFlowRate = "1000";
+    Test().RadLastSprinkler = "0";
+    ExpectRunTimeError(ErrorNumber::DivisionByZero, rate);
+    Test().RadLastSprinkler = "1e-40";
+    ExpectRunTimeError(ErrorNumber::Overflow, rate);
+}
+
+} // namespace
+} // namespace orvel

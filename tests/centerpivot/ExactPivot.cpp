@@ -42,7 +42,8 @@ Float RoundTo(const mpq_class& value) {
     if (magnitude < PowerOfTwo(exponent)) {
         --exponent;
     }
-    const long lastPlace = std::max(exponent, static_cast<long>(Limits::min_exponent) - 1) - Limits::digits + 1;
+    const long lastPlace =
+        std::max(exponent, static_cast<long>(Limits::min_exponent) - 1) - Limits::digits + 1;
     const mpq_class scaled = magnitude * PowerOfTwo(-lastPlace);
     mpz_class whole = scaled.get_num() / scaled.get_den();
     const int side = cmp(mpq_class(scaled - whole), mpq_class(1, 2));
@@ -89,27 +90,28 @@ mpq_class Double(const FixedText<N>& field) {
 }
 
 std::int16_t Count(const CenterPivotTest& test) {
-    for (int i = 1; i <= 300; ++i) {
-        if (i == 300) {
-            throw ExactError{kSubscriptOutOfRange};
-        }
+    for (int i = 1; i < 300; ++i) {
         if (test.Gauges[i].Volume == 0.0F && test.Gauges[i + 1].Volume == 0.0F) {
             return static_cast<std::int16_t>(i - 1);
         }
     }
-    return 0;
+    // The entry behind entry 300 is wanted whatever entry 300 holds.
+    throw ExactError{kSubscriptOutOfRange};
 }
 
 void Depths(const CenterPivotTest& test, ExactResults& results) {
+    mpq_class opening;
     for (int i = 1; i <= results.cupCount; ++i) {
         const PivotGauge& gauge = test.Gauges[i];
         ExactRow& row = results.rows.at(static_cast<std::size_t>(i));
         row.sequence = gauge.Sequence;
         row.footage = gauge.Footage;
-        const mpq_class diameter = Single(test.GuageDiameter);
-        const mpq_class square(RoundToDouble(diameter * diameter));
+        if (i == 1) {
+            const mpq_class diameter = Single(test.GuageDiameter);
+            opening = mpq_class(RoundToDouble(diameter * diameter)) * kPi;
+        }
         const mpq_class volume(static_cast<float>(gauge.Volume));
-        row.depth = RoundToSingle(Quotient(volume * 4, square * kPi) * kInchesPerCentimetre);
+        row.depth = RoundToSingle(Quotient(volume * 4, opening) * kInchesPerCentimetre);
     }
 }
 

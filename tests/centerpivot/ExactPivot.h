@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <gmpxx.h>
 #include <optional>
+#include <string_view>
 
 // A second evaluation of a center-pivot test, in exact rational arithmetic, that shares nothing with the
 // program's but the record. A number is rounded, exactly and once, where it becomes a Single or a double;
@@ -41,7 +42,8 @@ struct ExactResults {
     std::optional<int> error;
 };
 
-// To the nearest value of the type, ties to even; 0 below half of the smallest subnormal. Throws ExactError 6.
+// To the nearest value of the type, ties to even; 0 below half of the smallest subnormal. Throws
+// ExactError 6.
 [[nodiscard]] float RoundToSingle(const mpq_class& value);
 [[nodiscard]] double RoundToDouble(const mpq_class& value);
 

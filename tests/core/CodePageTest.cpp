@@ -61,6 +61,17 @@ TEST_F(CodePageTest, EveryByteSurvivesTheRoundTripInAnyPage) {
     EXPECT_EQ(FromUtf8(ToUtf8(AllBytes())), AllBytes());
 }
 
+// Sets in which a byte without a character has the number of another byte's character, and others at the
+// edge.
+TEST_F(CodePageTest, NoSetMakesTheProgramLoseAByte) {
+    for (const char* name : {"ISO-8859-8", "KOI8-T", "CP1255", "CP1258", "TIS-620", "ARMSCII-8",
+                             "GEORGIAN-PS", "ISO-8859-6", "ISO-8859-3", "CP864", "HP-ROMAN8", "MACINTOSH"}) {
+        SCOPED_TRACE(name);
+        UseCodePage(CodePage::Named(name).value_or(CodePage::Windows1252()));
+        EXPECT_EQ(FromUtf8(ToUtf8(AllBytes())), AllBytes());
+    }
+}
+
 TEST_F(CodePageTest, NamedPagesHaveTheirCharacters) {
     struct Row {
         const char* name;
@@ -140,6 +151,8 @@ TEST_F(CodePageTest, WhatIsNotUtf8BecomesAQuestionMarkForEachByte) {
         Row{"a\xF4\x90\x80\x80z", "a????z"}, // beyond U+10FFFF
         Row{"a\xF7\xBF\xBF\xBFz", "a????z"},
         Row{"a\xF8\x88\x80\x80\x80z", "a?????z"},
+        Row{"a\xF8\x90\x80\x80z", "a????z"},
+        Row{"a\xFF\x90\x80\x80z", "a????z"},
         Row{"a\xFE\xFFz", "a??z"},
         Row{"\xC3\xC3\xA4", "?\xE4"}, // the next character is read again
         Row{"\xE2\xC3\xA4", "?\xE4"},

@@ -105,8 +105,8 @@ TEST(Decimal, OfWhatIsNotFiniteOverflows) {
 TEST(Decimal, RoundsHalvesAwayFromZeroAndZeroHasNoSign) {
     struct Row {
         Decimal number;
-        long decimals;
-        const char* shown;
+        long decimals = 0;
+        const char* shown = "";
     };
     const std::array rows = {
         Row{{false, "125", 0}, 2, "0.13e0"},

@@ -54,7 +54,8 @@ TEST(Masks, ZeroShowsOnlyTheDigitsOfZeros) {
                              {zero, "#,###.00", ".00"},
                              {zero, "##.##", "."},
                              {zero, "0.##", "0."},
-                             {zero, "00%", "00%"}});
+                             {zero, "00%", "00%"},
+                             {zero, "0%", "0%"}});
     }
 }
 
@@ -129,6 +130,16 @@ TEST(Masks, KeepSevenDigitsOfASingleAndFifteenOfADouble) {
                           {1.0 / 3.0, "0.00000000000000000", "0.33333333333333300"},
                           {1234567890123456.0, "#,###", "1,234,567,890,123,460"},
                           {0.1 + 0.2, "0.00000000000000000", "0.30000000000000000"}});
+}
+
+// The places on the right of a "0" always show, too.
+TEST(Masks, EveryPlaceFromTheFirstZeroOnShows) {
+    ExpectMasked<float>({{5, "0#", "05"},
+                         {7, "0,000", "0,007"},
+                         {7, "#,##0.00", "7.00"},
+                         {0, "#,##0.00", "0.00"},
+                         {1234.5F, "#,##0.00", "1,234.50"},
+                         {2, "0.#0", "2.00"}});
 }
 
 TEST(Masks, MoreIntegerDigitsThanPlacesAreAllShown) {

@@ -59,7 +59,7 @@ protected:
 
     // Makes a locale with the numbers of a real one, and little else so that it is made quickly. Its name is
     // that of the real one and the character set.
-    std::string Make(const std::string& numbers, const std::string& charset) const {
+    [[nodiscard]] std::string Make(const std::string& numbers, const std::string& charset) const {
         std::string definition;
         const auto copy = [&definition](const std::string& category, const std::string& from) {
             definition.append("LC_" + category + "\ncopy \"" + from + "\"\nEND LC_" + category + "\n");
@@ -73,7 +73,7 @@ protected:
         for (const char* category : {"PAPER", "NAME", "ADDRESS", "TELEPHONE", "MEASUREMENT"}) {
             copy(category, "i18n");
         }
-        const std::string name = numbers + "." + charset;
+        std::string name = numbers + "." + charset;
         const std::string source = folder / (name + ".source");
         const std::string target = folder / name;
         testing::PutContents(source, definition);

@@ -165,6 +165,7 @@ TEST_F(NumberTextTest, IndianGroupsAreThreeThenTwo) {
 TEST_F(NumberTextTest, GroupsEndWhereTheGroupingEnds) {
     UseNumberLocale({'.', ',', "\3\x7F"});
     ExpectSingles({{"1,234", 1234}, {"123456,789", 123456789.0F}});
+    ExpectSingles({{std::string(200, '0') + "1,234", 1234}});
     ExpectAll(ErrorNumber::TypeMismatch, {"1,234,567", "12,34"});
 }
 
@@ -182,10 +183,10 @@ TEST_F(NumberTextTest, ASingleIsRoundedOnceFromTheDecimals) {
     const std::string oddTie = "1.000000178813934326171875"; // 1 + 3 * 2^-24
     ExpectSingles({{"0.1", 0.1F},
                    {"16777217", 16777216},
-                   {"16777219", 16777220},
-                   {"16777217.0000000000000000000000000001", 16777218},
+                   {"16777219", 16777220.0F},
+                   {"16777217.0000000000000000000000000001", 16777218.0F},
                    {"16777216.9999999999999999999999999999", 16777216},
-                   {"16777218.9999999999999999999999999999", 16777218},
+                   {"16777218.9999999999999999999999999999", 16777218.0F},
                    {tie, 1},
                    {oddTie, 0x1.000004p0F},
                    // Closer to the tie than a double can tell.
@@ -336,7 +337,7 @@ TEST_F(NumberTextTest, WritesTheShortestDigitsWithoutExponent) {
                                         {1234.567F, "1234.567"},
                                         {1000000, "1000000"},
                                         {16777216, "16777216"},
-                                        {33554432, "33554432"},
+                                        {33554432.0F, "33554432"},
                                         {8589934592.0F, "8589935000"},
                                         {0.0001F, "0.0001"},
                                         {1e-5F, "0.00001"},
@@ -382,7 +383,8 @@ std::size_t SignificantDigits(std::string_view text) {
 std::size_t FewestDigits(float value) {
     std::array<char, 32> buffer{};
     for (int precision = 1; precision < 9; ++precision) {
-        std::snprintf(buffer.data(), buffer.size(), "%.*g", precision, static_cast<double>(value));
+        static_cast<void>(
+            std::snprintf(buffer.data(), buffer.size(), "%.*g", precision, static_cast<double>(value)));
         if (std::strtof(buffer.data(), nullptr) == value) {
             return static_cast<std::size_t>(precision);
         }
