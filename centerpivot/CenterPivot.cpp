@@ -71,8 +71,8 @@ void ComputeIrrigatedAcres() {
         // kept: the acres of an earlier test stay.
         return;
     }
-    const float machine = StoreSingle(static_cast<long double>(ToSingle(tower)) + ToSingle(overhang));
-    const float radius = StoreSingle(static_cast<long double>(machine) + ToSingle(endGun));
+    const float machine = AddSingles(ToSingle(tower), ToSingle(overhang));
+    const float radius = AddSingles(machine, ToSingle(endGun));
     PivotResults().IrrigatedAcres = AcresFromRadius(radius);
 }
 
@@ -199,7 +199,7 @@ std::optional<float> ApplicationRateAtLastTower() {
     if (flow == 0 || tower.empty() || overhang.empty() || radius.empty()) {
         return std::nullopt;
     }
-    const float length = StoreSingle(static_cast<long double>(ToSingle(tower)) + ToSingle(overhang));
+    const float length = AddSingles(ToSingle(tower), ToSingle(overhang));
     const long double wetted = static_cast<long double>(length) * ToSingle(radius);
     return StoreSingle(Divide(flow * static_cast<long double>(kApplicationRateFactor), wetted));
 }

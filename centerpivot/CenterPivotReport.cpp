@@ -135,7 +135,7 @@ std::string CenterPivotSystemText() {
     const auto tower = test.DistanceToTower.TrimInPlace();
     const auto overhang = test.LengthOverhang.TrimInPlace();
     if (!tower.empty() && !overhang.empty()) {
-        const float length = StoreSingle(static_cast<long double>(ToSingle(tower)) + ToSingle(overhang));
+        const float length = AddSingles(ToSingle(tower), ToSingle(overhang));
         // kept: no colon.
         text += Line("System Length ", FormatMask(length, "#,###"));
     }

@@ -40,6 +40,10 @@ double StoreDouble(long double value) {
     return Store<double>(value);
 }
 
+float AddSingles(float left, float right) {
+    return StoreSingle(static_cast<long double>(left) + right);
+}
+
 long double Divide(long double dividend, long double divisor) {
     if (!std::isfinite(dividend) || !std::isfinite(divisor)) {
         Raise(ErrorNumber::Overflow);

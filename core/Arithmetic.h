@@ -15,6 +15,9 @@ namespace orvel {
 // The same in double precision.
 [[nodiscard]] double StoreDouble(long double value);
 
+// The sum of two Singles where it is to be a Single itself. Raises Overflow.
+[[nodiscard]] float AddSingles(float left, float right);
+
 // The quotient. Raises Overflow for 0 / 0 and for an operand that is not finite, Division by zero for x / 0.
 [[nodiscard]] long double Divide(long double dividend, long double divisor);
 

@@ -20,7 +20,7 @@ template <class Gauge>
 float AverageVolume(const MeasurementList<Gauge>& gauges, std::int16_t cupCount) {
     float sum = 0;
     for (int i = 1; i <= cupCount; ++i) {
-        sum = StoreSingle(static_cast<long double>(sum) + gauges[i].Volume);
+        sum = AddSingles(sum, gauges[i].Volume);
     }
     return cupCount > 0 ? StoreSingle(Divide(sum, cupCount)) : 0.0F;
 }

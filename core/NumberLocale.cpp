@@ -5,6 +5,7 @@
 #include "core/CodePage.h"
 
 #include <climits>
+#include <cstdlib>
 #include <locale>
 #include <stdexcept>
 
@@ -21,6 +22,18 @@ NumberLocale& Current() {
 
 bool GroupsDigits(const std::string& grouping) {
     return !grouping.empty() && grouping.front() > 0 && grouping.front() != CHAR_MAX;
+}
+
+// The locale that the environment names for numbers. Asking for all of its categories at once would fail
+// when any other one does not exist.
+std::string NameForNumbers() {
+    for (const char* variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
+        const char* name = std::getenv(variable); // NOLINT(concurrency-mt-unsafe): one thread
+        if (name != nullptr && *name != '\0') {
+            return name;
+        }
+    }
+    return "C";
 }
 
 char SeparatorInPage(char32_t separator, char otherwise) {
@@ -46,7 +59,7 @@ void UseNumberLocale(const NumberLocale& locale) {
 NumberLocale SystemNumberLocale() {
     std::locale system;
     try {
-        system = std::locale("");
+        system = std::locale(NameForNumbers());
     } catch (const std::runtime_error&) {
         return InvariantNumberLocale();
     }

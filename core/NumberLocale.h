@@ -24,7 +24,8 @@ void UseNumberLocale(const NumberLocale& locale);
 
 // The locale that the environment asks for (the invariant one when it asks for one that does not exist).
 // Call it after the code page is set: separators are written in that page. One that the page lacks (U+202F)
-// becomes U+00A0. A locale without a group separator has "," unless that is its decimal separator.
+// becomes U+00A0, a decimal separator that it lacks ".". A locale without a group separator has "," unless
+// that is its decimal separator.
 [[nodiscard]] NumberLocale SystemNumberLocale();
 
 } // namespace orvel

@@ -89,6 +89,13 @@ TEST(Arithmetic, StoringWhatIsNotFiniteOrTooLargeOverflows) {
     }
 }
 
+TEST(Arithmetic, ASumOfSinglesIsASingle) {
+    EXPECT_EQ(AddSingles(16777216.0F, 1.0F), 16777216.0F);
+    EXPECT_EQ(AddSingles(16777216.0F, 3.0F), 16777220.0F);
+    EXPECT_EQ(AddSingles(1.5F, -4.0F), -2.5F);
+    ExpectRunTimeError(ErrorNumber::Overflow, [] { static_cast<void>(AddSingles(FLT_MAX, FLT_MAX)); });
+}
+
 TEST(Arithmetic, DividesInExtendedPrecision) {
     EXPECT_EQ(Divide(7, 2), 3.5L);
     EXPECT_EQ(Divide(0, 5), 0.0L);
