@@ -184,6 +184,10 @@ TEST_F(NumberLocaleTest, OnlyTheNumbersOfTheEnvironmentCount) {
     LocaleEnvironment::Set("LANG", "C");
     LocaleEnvironment::Set("LC_NUMERIC", german);
     EXPECT_EQ(SystemNumberLocale().decimalSeparator, ',');
+    // Other categories may name what does not exist here, as over a remote login.
+    LocaleEnvironment::Set("LC_CTYPE", "UTF-8");
+    LocaleEnvironment::Set("LANG", "xx_XX.UTF-8");
+    EXPECT_EQ(SystemNumberLocale().decimalSeparator, ',');
     LocaleEnvironment::Set("LC_ALL", "C");
     ExpectInvariant(SystemNumberLocale());
     LocaleEnvironment::Set("LC_ALL", "");
