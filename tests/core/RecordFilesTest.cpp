@@ -141,7 +141,7 @@ TYPED_TEST(TestFilesTest, ReadsWhatAShortFileLacksAsBlanksAndZeros) {
     std::vector<std::size_t> sizes;
     // Every cut around the flags and behind the last measurements, a cut in each of the bytes of a Single.
     for (std::size_t size = 0; size <= this->kSize;
-         size += size % 1000 < 40 || size + 160 > this->kSize ? 1 : 37) {
+         size += size % 1000 < 40 || size + 160 > this->kSize ? 1U : 37U) {
         sizes.push_back(size);
     }
     for (std::size_t size = 1770; size < 1880; ++size) {
