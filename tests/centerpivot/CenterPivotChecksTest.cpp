@@ -7,6 +7,7 @@
 #include <array>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace orvel {

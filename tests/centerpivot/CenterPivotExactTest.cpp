@@ -11,6 +11,7 @@
 #include <map>
 #include <random>
 #include <sstream>
+#include <tuple>
 
 namespace orvel {
 namespace {
@@ -250,6 +251,35 @@ TEST_F(CenterPivotExactTest, LongListsOfWidelySpreadCupsAgreeToTheLastBit) {
         EXPECT_EQ(exact.error, std::nullopt);
         EXPECT_EQ(exact.cupCount, count);
         ResetCenterPivot();
+    }
+}
+
+TEST_F(CenterPivotExactTest, TheTravelSpeedIsKeptInDoublePrecision) {
+    struct Case {
+        const char* feet;
+        const char* minutes;
+        const char* seconds;
+    };
+    // Speeds a hair beside the middle between two Singles: as a double each is that middle itself.
+    constexpr std::array kCases = {
+        Case{"503", "2.8292274e-07", "294.25"},
+        Case{"791", "2.0484036e-07", "302.25"},
+        Case{"513.5", "1.3688493e-08", "476.5"},
+        Case{"534.75", "3.187669e-09", "41.75"},
+    };
+    FillTest();
+    for (const Case& row : kCases) {
+        SCOPED_TRACE(row.feet);
+        CenterPivotTest test = Test();
+        test.PercentTimer = "100";
+        test.TravelSpeedFeet = row.feet;
+        test.TravelSpeedMinutes = row.minutes;
+        test.TravelSpeedSeconds = row.seconds;
+        for (const char* tower : {"1380", "1290.5", "997.3", "411"}) {
+            test.DistanceToTower = tower;
+            EXPECT_GT(Compare(test, {}).calculatedFlowRate, 0.0F);
+            ResetCenterPivot();
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <limits>
 #include <string>
+#include <tuple>
 
 namespace orvel {
 namespace {

@@ -5,6 +5,7 @@
 #include "tests/centerpivot/PivotFixture.h"
 
 #include <limits>
+#include <tuple>
 
 namespace orvel {
 namespace {
