@@ -88,19 +88,6 @@ float EnteredFlowRate() {
     return flow;
 }
 
-// Hours of a full circle at the tested timer setting, from the speed of the last tower.
-long double HoursPerRevolution() {
-    const float seconds = StoreSingle(ToSingle(Test().TravelSpeedSeconds.Whole()) / 3600.0L);
-    const long double hours = ToSingle(Test().TravelSpeedMinutes.Whole()) / 60.0L + seconds;
-    const double speed = StoreDouble(Divide(ToSingle(Test().TravelSpeedFeet.Whole()), hours));
-    const double timer = ToDouble(Test().PercentTimer.Whole());
-    const float fullSpeed = StoreSingle(Divide(100.0L, timer) * speed);
-    const long double tower = ToDouble(Test().DistanceToTower.Whole());
-    const float circumference = StoreSingle((tower + tower) * kPi);
-    const long double hoursAtFullSpeed = Divide(circumference, fullSpeed);
-    return Divide(hoursAtFullSpeed, StoreSingle(timer / 100.0L));
-}
-
 float AcresForFlowRate() {
     float acres = 0;
     if (const auto total = Test().TotalAcres.TrimInPlace(); !total.empty()) {
@@ -141,13 +128,25 @@ float FlowRateFromDepth(float acres, float depth, long double hours) {
     return StoreSingle(Divide(acres * static_cast<long double>(kGpmPerAcreInchPerHour) * depth, hours));
 }
 
+RevolutionTime ComputeRevolutionTime() {
+    const float seconds = StoreSingle(ToSingle(Test().TravelSpeedSeconds.Whole()) / 3600.0L);
+    const long double hours = ToSingle(Test().TravelSpeedMinutes.Whole()) / 60.0L + seconds;
+    const double speed = StoreDouble(Divide(ToSingle(Test().TravelSpeedFeet.Whole()), hours));
+    const double timer = ToDouble(Test().PercentTimer.Whole());
+    const float fullSpeed = StoreSingle(Divide(100.0L, timer) * speed);
+    const long double tower = ToDouble(Test().DistanceToTower.Whole());
+    const float circumference = StoreSingle((tower + tower) * kPi);
+    const long double atFullSpeed = Divide(circumference, fullSpeed);
+    return {atFullSpeed, Divide(atFullSpeed, StoreSingle(timer / 100.0L))};
+}
+
 void SortAndLowQuarter() {
     PivotResults().LowQuarterDU = LowQuarterUniformity(Depths(), PivotResults().AverageDepth);
 }
 
 void ComputeFlowRate() {
     try {
-        const long double hours = HoursPerRevolution();
+        const long double hours = ComputeRevolutionTime().atTestedSetting;
         const float acres = AcresForFlowRate();
         const float depth = PivotResults().AverageDepth;
         const bool canCompute = IsNonZero(acres) && IsNonZero(depth) && IsNonZero(hours);

@@ -54,6 +54,16 @@ void CalculateCenterPivot();
 // The flow that puts `depth` inches on `acres` in `hours`, GPM: acres x 453 x depth / hours.
 [[nodiscard]] float FlowRateFromDepth(float acres, float depth, long double hours);
 
+// How long a full circle takes, from the travel speed of the last tower; hours.
+struct RevolutionTime {
+    long double atFullSpeed = 0;
+    long double atTestedSetting = 0;
+};
+
+// Raises Type mismatch for a blank or faulty entry (travel speed, timer setting, distance to the tower),
+// Division by zero or Overflow where the formulas do.
+[[nodiscard]] RevolutionTime ComputeRevolutionTime();
+
 // Sets LowQuarterDU from the depths and AverageDepth.
 void SortAndLowQuarter();
 // Sets CalculatedFlowRate from travel speed, timer and acres; traps its own errors, which leave it as it is.

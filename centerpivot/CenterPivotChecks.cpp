@@ -21,13 +21,6 @@ bool IsBlank(FixedText<N>& field) {
     return field.TrimInPlace().empty();
 }
 
-template <std::size_t N>
-void RequireEntry(DataChecks& checks, FixedText<N>& field, std::string_view error) {
-    if (IsBlank(field)) {
-        checks.AddError(error);
-    }
-}
-
 // A paragraph, which an empty line follows.
 void AddParagraph(DataChecks& checks, std::string_view paragraph) {
     checks.AddWarning(std::string{paragraph}.append(kCrLf));
@@ -91,10 +84,10 @@ bool CheckCenterPivotData() {
 
     DataChecks checks;
     checks.CheckCupCount(cupCount);
-    RequireEntry(checks, test.ClientName, "You Should Enter the Client Name.");
-    RequireEntry(checks, test.GuageDiameter, "Rain Gauge Diameter Must be Entered.");
-    RequireEntry(checks, test.DistanceToFirstGuage, "Distance to First Gauge Must be Entered.");
-    RequireEntry(checks, test.GuageSpacing, "Gauge Spacing Must be Entered.");
+    checks.RequireEntry(test.ClientName, "You Should Enter the Client Name.");
+    checks.RequireEntry(test.GuageDiameter, "Rain Gauge Diameter Must be Entered.");
+    checks.RequireEntry(test.DistanceToFirstGuage, "Distance to First Gauge Must be Entered.");
+    checks.RequireEntry(test.GuageSpacing, "Gauge Spacing Must be Entered.");
     CheckMissingInputs(checks, test);
     checks.CheckCatches(test.Gauges, cupCount, average);
     return checks.Report();

@@ -9,7 +9,6 @@
 #include "core/Text.h"
 
 #include <array>
-#include <string_view>
 
 namespace orvel {
 
@@ -65,16 +64,6 @@ constexpr std::array<ListingLabel, 46> kLabels = {{
     {"RadLastSprinkler", "Radius of Last Sprinkler (feet):"},
 }};
 
-constexpr std::size_t kIndexColumns = 8;
-constexpr std::size_t kNumberColumns = 10;
-
-std::string Row(std::string_view index, std::string_view footage, std::string_view volume) {
-    std::string row = PadText(index, kIndexColumns, 'L', ' ');
-    row += PadText(footage, kNumberColumns, 'L', ' ');
-    row += PadText(volume, kNumberColumns, 'L', ' ');
-    return row.append(kCrLf);
-}
-
 } // namespace
 
 std::string CenterPivotListingText() {
@@ -82,11 +71,11 @@ std::string CenterPivotListingText() {
     std::string text = ListingTitle("Center Pivot Data");
     text += ListingFields(AsBytes(test), kCenterPivotFields, kLabels);
     text += RuleLine();
-    text += Row("Cup", "Footage", "Volume");
+    text += ListingRow({"Cup", "Footage", "Volume"});
     for (int i = 1; i <= LastFilledEntry(test.Gauges); ++i) {
         const PivotGauge& gauge = test.Gauges[i];
-        text += Row(FormatMask(static_cast<double>(i), "#00"), FormatMask(gauge.Footage, "#####"),
-                    FormatMask(gauge.Volume, "####"));
+        text += ListingRow({FormatMask(static_cast<double>(i), "#00"), FormatMask(gauge.Footage, "#####"),
+                            FormatMask(gauge.Volume, "####")});
     }
     return text + RuleLine();
 }

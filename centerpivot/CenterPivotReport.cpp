@@ -8,6 +8,7 @@
 #include "core/NumberText.h"
 #include "core/ProgramState.h"
 #include "core/ReportHeading.h"
+#include "core/ReportText.h"
 #include "core/Text.h"
 
 #include <cmath>
@@ -25,30 +26,6 @@ CenterPivotTest& Test() {
     return Program().centerPivotTest;
 }
 
-std::string Line(std::string_view label, std::string_view value = {}, std::string_view behind = {}) {
-    return std::string{label}.append(value).append(behind).append(kCrLf);
-}
-
-// A line that stands only when its field is filled in.
-template <std::size_t N>
-std::string FilledLine(std::string_view label, FixedText<N>& field) {
-    const std::string_view value = field.TrimInPlace();
-    return value.empty() ? std::string{} : Line(label, value);
-}
-
-// A line that stands unless its field still holds the prompt of its combo box; kept: a blank field prints the
-// bare label.
-template <std::size_t N>
-std::string ChosenLine(std::string_view label, FixedText<N>& field, std::string_view prompt) {
-    const std::string_view value = field.TrimInPlace();
-    return value == prompt ? std::string{} : Line(label, value);
-}
-
-// A result in percent, of which a sentence speaks as a part of one: the mask multiplies it again.
-std::string PercentText(float percent) {
-    return FormatMask(StoreSingle(percent / 100.0L), "00%");
-}
-
 std::string AcresWarning(float estimated, float irrigated) {
     if (estimated <= 0 || irrigated <= 0) {
         return {};
@@ -57,8 +34,8 @@ std::string AcresWarning(float estimated, float irrigated) {
     if (StoreSingle(Divide(difference, estimated)) <= kAcresTolerance) {
         return {};
     }
-    return Line("Calculated acres is more/less than 10% of estimated "
-                "acres which could cause errors in data output.");
+    return ReportLine("Calculated acres is more/less than 10% of estimated "
+                      "acres which could cause errors in data output.");
 }
 
 std::string EfficiencyParagraph() {
@@ -86,36 +63,22 @@ std::string EfficiencyParagraph() {
 } // namespace
 
 std::string CenterPivotHeadingText() {
-    CenterPivotTest& test = Test();
-    return ReportHeadingText({
-        .title = PivotResults().ReportTitle.Trimmed(),
-        .dateOfTest = test.DateofTest.TrimInPlace(),
-        .file = Program().centerPivotFile,
-        .clientName = test.ClientName.TrimInPlace(),
-        .farmName = test.FarmName.TrimInPlace(),
-        .operatorName = test.OperatorName.TrimInPlace(),
-        .address = test.ClientAddress.TrimInPlace(),
-        .city = test.ClientCity.TrimInPlace(),
-        .state = test.ClientState.TrimInPlace(),
-        .zip = test.ClientZip.TrimInPlace(),
-        .county = test.ClientCounty.TrimInPlace(),
-        .phone = test.ClientPhone.TrimInPlace(),
-        .eMail = test.EMail.TrimInPlace(),
-    });
+    return ReportHeadingText(
+        HeadingFieldsOf(Test(), PivotResults().ReportTitle.Trimmed(), Program().centerPivotFile));
 }
 
 std::string CenterPivotFieldText() {
     CenterPivotTest& test = Test();
     const float irrigated = PivotResults().IrrigatedAcres;
-    std::string text = Line("Field Information");
+    std::string text = ReportLine("Field Information");
     text += FilledLine("Field Name:      ", test.FieldName);
     float estimated = 0;
     if (const auto acres = test.TotalAcres.TrimInPlace(); !acres.empty()) {
         estimated = ToSingle(acres);
-        text += Line("Estimated Acres: ", FormatMask(estimated, "#,###"));
+        text += ReportLine("Estimated Acres: ", FormatMask(estimated, "#,###"));
     }
     if (irrigated > 0) {
-        text += Line("Irrigated Acres: ", FormatMask(irrigated, "#,###"));
+        text += ReportLine("Irrigated Acres: ", FormatMask(irrigated, "#,###"));
     }
     text += AcresWarning(estimated, irrigated);
     text += ChosenLine("Soil Type: ", test.SoilType, kPromptSoilType);
@@ -128,7 +91,7 @@ std::string CenterPivotFieldText() {
 
 std::string CenterPivotSystemText() {
     CenterPivotTest& test = Test();
-    std::string text = Line("System Information");
+    std::string text = ReportLine("System Information");
     text += ChosenLine("System Manufacturer: ", test.SystemManufacturer, kPromptSystemManufacturer);
     text += ChosenLine("Type Sprinkler: ", test.TypeSprinkler, kPromptTypeSprinkler);
     text += FilledLine("System Age: ", test.SystemAge);
@@ -137,7 +100,7 @@ std::string CenterPivotSystemText() {
     if (!tower.empty() && !overhang.empty()) {
         const float length = AddSingles(ToSingle(tower), ToSingle(overhang));
         // kept: no colon.
-        text += Line("System Length ", FormatMask(length, "#,###"));
+        text += ReportLine("System Length ", FormatMask(length, "#,###"));
     }
     text += FilledLine("Estimated Flow Rate: ", test.EstFlowRate);
     text += FilledLine("Estimated Pressure: ", test.EstimatedPressure);
@@ -150,35 +113,36 @@ std::string CenterPivotSystemText() {
 
 std::string CenterPivotResultsText() {
     const CenterPivotResults& results = PivotResults();
-    std::string text = Line("Average Depth:           ", FormatMask(results.AverageDepth, "0.00"), " inches");
+    std::string text =
+        ReportLine("Average Depth:           ", FormatMask(results.AverageDepth, "0.00"), " inches");
     if (const auto timer = Test().PercentTimer.TrimInPlace(); !timer.empty()) {
-        text += Line("System Timer Setting:    ", FormatMask(ToSingle(timer), "##"), "%");
+        text += ReportLine("System Timer Setting:    ", FormatMask(ToSingle(timer), "##"), "%");
     }
     if (results.CalculatedFlowRate > 0) {
-        text += Line("Calculated Flow Rate:           ", FormatMask(results.CalculatedFlowRate, "#,###.00"),
-                     " GPM");
+        text += ReportLine(
+            "Calculated Flow Rate:           ", FormatMask(results.CalculatedFlowRate, "#,###.00"), " GPM");
     }
     if (results.ApplicationEfficiency > 0) {
         const float percent = StoreSingle(results.ApplicationEfficiency * 100.0L);
-        text += Line("Water Application Efficiency:   ", FormatMask(percent, "##.00"), "%");
+        text += ReportLine("Water Application Efficiency:   ", FormatMask(percent, "##.00"), "%");
     }
     text += kCrLf;
     // kept: "Cooeficients", and the low quarter's figure labelled CU.
-    text += Line("Cooeficients of Uniformity");
-    text += Line("Christiansen Method       CU = ", FormatMask(results.ChristiansenCU, "00"), "%");
-    text += Line("Heermann and Hein Method  CU = ", FormatMask(results.HeermannHeinCU, "00"), "%");
-    text += Line("Low Quarter Distribution  CU = ", FormatMask(results.LowQuarterDU, "00"), "%");
+    text += ReportLine("Cooeficients of Uniformity");
+    text += PercentLine("Christiansen Method       CU = ", results.ChristiansenCU);
+    text += PercentLine("Heermann and Hein Method  CU = ", results.HeermannHeinCU);
+    text += PercentLine("Low Quarter Distribution  CU = ", results.LowQuarterDU);
     return text + RuleLine();
 }
 
 std::string CenterPivotApplicationRateText() {
     const auto rate = ApplicationRateAtLastTower();
-    return rate ? Line("Application Rate at Last Tower: ", FormatMask(*rate, "0.00")) : std::string{};
+    return rate ? ReportLine("Application Rate at Last Tower: ", FormatMask(*rate, "0.00")) : std::string{};
 }
 
 std::string CenterPivotUniformityText() {
     const CenterPivotResults& results = PivotResults();
-    std::string text = Line("Uniformity Analysis:");
+    std::string text = ReportLine("Uniformity Analysis:");
     // kept: "Christensen" here, "Christiansen" among the results.
     text += "The degree of uniform water delivery is indicated by the "
             "coefficient(s) of uniformity. The Christensen uniformity is the "
@@ -196,31 +160,16 @@ std::string CenterPivotUniformityText() {
                 : "Since your coefficient is above 80% no specific "
                   "recommendations for improvement are being made. ";
     text.append(kCrLf).append(kCrLf);
-    text += "If there are specific points in the fields where improvements "
-            "may be needed they will be indicated on the report by either "
-            "red (for low) or blue (for high). These points recorded a "
-            "variation greater than 20% from the average. Check sprinklers "
-            "at or near these points for proper operation. Items to look "
-            "for include proper rotation (if the sprinkler rotates), worn "
-            "nozzles, clogged nozzles and leaks that may have been collected "
-            "by the data collection cups. ";
-    text.append(kCrLf).append(kCrLf);
-    text += "The low quarter DU is an indication of the percentage of water that the "
-            "lowest 25% of the data gets compared to the average amount of "
-            "water collected (all the data). In your particular situation it means "
-            "that the amount of water collected by the lowest 25% of the data was ";
-    text += PercentText(results.LowQuarterDU);
-    text += " of the average amount of all the data collected. A low quarter uniformity"
-            " close to 100% means the system has less variability in its output or uniformity.";
-    text.append(kCrLf).append(kCrLf);
+    text += LowAndHighPointsParagraph();
+    text += LowQuarterParagraph(results.LowQuarterDU);
     text += EfficiencyParagraph();
     return text + RuleLine();
 }
 
 std::string CenterPivotCommentsText() {
     // kept: "Recomendations".
-    std::string text = Line("Other Comments / Recomendations:");
-    text += Line(Test().OtherComments.Whole());
+    std::string text = ReportLine("Other Comments / Recomendations:");
+    text += ReportLine(Test().OtherComments.Whole());
     text += kCrLf;
     return text + RuleLine();
 }

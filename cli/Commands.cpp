@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Commands.h"
 
-#include "centerpivot/CenterPivot.h"
-#include "centerpivot/CenterPivotChecks.h"
-#include "centerpivot/CenterPivotListing.h"
-#include "centerpivot/CenterPivotSummary.h"
 #include "cli/ExitStatus.h"
 #include "cli/Json.h"
 #include "cli/Output.h"
-#include "cli/ResultsOutput.h"
 #include "cli/Session.h"
 #include "cli/Sink.h"
+#include "cli/TestKinds.h"
 #include "core/CodePage.h"
+#include "core/ProgramState.h"
 #include "core/Text.h"
-#include "report/CenterPivotReportBuild.h"
+#include "report/HtmlReport.h"
+#include "report/MemoryRichTextBox.h"
+#include "report/ReportBuilder.h"
+#include "report/RtfWriter.h"
 
 #include <algorithm>
 #include <functional>
@@ -52,11 +52,12 @@ int OverFiles(const Options& options, std::string_view outputExtension,
 }
 
 // The same for a command that runs the program's logic.
-int OverTests(const Options& options, std::string_view outputExtension,
-              const std::function<FileResult(const Session&, const std::filesystem::path&)>& work) {
+int OverTests(
+    const Options& options, std::string_view outputExtension,
+    const std::function<FileResult(const Session&, const TestKind&, const std::filesystem::path&)>& work) {
     Session session(options);
     return OverFiles(options, outputExtension, [&session, &work](const std::filesystem::path& file) {
-        return session.Run(file, [&session, &work, &file] { return work(session, file); });
+        return session.Run(file, [&](const TestKind& kind) { return work(session, kind, file); });
     });
 }
 
@@ -68,7 +69,8 @@ void RequireOutputDirectoryForSeveral(const Options& options) {
 
 std::string ResultsHeader(const Options& options, const std::filesystem::path& file) {
     const bool isFirst = &file == &options.files.front();
-    return options.files.size() > 1 ? (isFirst ? "" : "\n") + file.native() + ":\n" : std::string{};
+    return options.files.size() > 1 ? (isFirst ? "" : "\n") + SystemToUtf8(file.native()) + ":\n"
+                                    : std::string{};
 }
 
 // One line of several, or a document that stands alone.
@@ -76,22 +78,62 @@ std::string ResultsJsonText(const Options& options, const std::filesystem::path&
     if (options.files.size() == 1) {
         return JsonDocument(results);
     }
-    Json line = {{"file", file.native()}};
+    Json line = {{"file", SystemToUtf8(file.native())}};
     line.update(results);
     return JsonLine(line);
 }
 
-Json ReportJson(const Session& session, bool isMade, const std::string& text) {
-    return {{"ok", isMade},
-            {"text", ToUtf8(text)},
-            {"colorRuns", Json::array()},
-            {"messages", session.Messages()}};
+// A report as the program builds it into a box.
+struct Report {
+    MemoryRichTextBox box;
+    bool isMade = false;
+    Json colorRuns = Json::array();
+};
+
+Json ColorRunsJson(const ColorRunTable& table) {
+    Json runs = Json::array();
+    for (std::size_t i = 1; i < table.ColorRunCode.size(); ++i) {
+        if (table.ColorRunCode[i] != kNoColor) {
+            runs.push_back({{"start", table.ColorRunStart[i]},
+                            {"length", table.ColorRunLength[i]},
+                            {"code", table.ColorRunCode[i]}});
+        }
+    }
+    return runs;
 }
 
-template <class Build>
-FileResult LogicText(Build build) {
+Report MakeReport(const TestKind& kind) {
+    Report report;
+    ReportBuilder builder(report.box);
+    if (!Attempt([&] { (builder.*kind.buildReport)(); })) {
+        report.box.SetText("");
+    }
+    const std::string text = report.box.Text();
+    report.isMade = !text.empty() && text != kReportNotCreated;
+    if (report.isMade) {
+        report.colorRuns = ColorRunsJson(builder.ColorRuns());
+    }
+    return report;
+}
+
+std::string Formatted(const Report& report, const std::string& format) {
+    if (format == "rtf") {
+        return WriteRtf(report.box.Document());
+    }
+    return format == "html" ? HtmlOfReport(report.box.Text()) : ToUtf8(report.box.Text());
+}
+
+// Of the files in the output folder.
+std::string ReportExtension(const Options& options) {
+    if (options.json) {
+        return "json";
+    }
+    return options.format == "text" ? "txt" : options.format;
+}
+
+FileResult LogicText(std::string (*build)(), std::string_view behind = {}) {
     std::string text;
-    if (!Attempt([&text, &build] { text = build(); })) {
+    if (!Attempt([&] { text = build().append(behind); })) {
         return {};
     }
     return {kDone, ToUtf8(text)};
@@ -100,23 +142,22 @@ FileResult LogicText(Build build) {
 } // namespace
 
 int RunResults(const Options& options) {
-    return OverTests(options, "", [&options](const Session& session, const std::filesystem::path& file) {
-        CalculateCenterPivot();
-        std::optional<float> rate;
-        (void)Attempt([&rate] { rate = ApplicationRateAtLastTower(); });
-        if (!options.json) {
-            return FileResult{kDone, ResultsHeader(options, file) + ToUtf8(CenterPivotResultsListing(rate))};
-        }
-        Json results = CenterPivotResultsJson(rate);
-        results["messages"] = session.Messages();
-        return FileResult{kDone, ResultsJsonText(options, file, results)};
-    });
+    return OverTests(
+        options, "",
+        [&options](const Session& session, const TestKind& kind, const std::filesystem::path& file) {
+            Results results = kind.calculate();
+            if (!options.json) {
+                return FileResult{kDone, ResultsHeader(options, file) + results.listing};
+            }
+            results.json["messages"] = session.Messages();
+            return FileResult{kDone, ResultsJsonText(options, file, results.json)};
+        });
 }
 
 int RunCheck(const Options& options) {
-    return OverTests(options, "", [&options](const Session& session, const std::filesystem::path&) {
+    return OverTests(options, "", [&options](const Session& session, const TestKind& kind, const auto&) {
         bool isGood = false;
-        (void)Attempt([&isGood] { isGood = CheckCenterPivotData(); });
+        (void)Attempt([&] { isGood = kind.check(); });
         FileResult result{isGood ? kDone : kChecksFoundErrors, std::nullopt};
         if (options.json) {
             result.text = JsonDocument({{"ok", isGood}, {"messages", session.Messages()}});
@@ -126,22 +167,19 @@ int RunCheck(const Options& options) {
 }
 
 int RunReport(const Options& options) {
-    if (options.format != "text") {
-        throw CommandError(kWrongUsage, "--format " + options.format, "not built yet");
-    }
     RequireOutputDirectoryForSeveral(options);
-    return OverTests(options, options.json ? "json" : "txt",
-                     [&options](const Session& session, const std::filesystem::path&) {
-                         std::string text;
-                         bool isMade = false;
-                         const bool hasEnded =
-                             Attempt([&text, &isMade] { isMade = BuildCenterPivotReport(text); });
+    return OverTests(options, ReportExtension(options),
+                     [&options](const Session& session, const TestKind& kind, const auto&) {
+                         const Report report = MakeReport(kind);
                          FileResult result;
-                         result.status = hasEnded && !isMade ? kChecksFoundErrors : kDone;
+                         result.status = report.isMade ? kDone : kChecksFoundErrors;
                          if (options.json) {
-                             result.text = JsonDocument(ReportJson(session, isMade, text));
-                         } else if (isMade) {
-                             result.text = ToUtf8(text);
+                             result.text = JsonDocument({{"ok", report.isMade},
+                                                         {"text", ToUtf8(report.box.Text())},
+                                                         {"colorRuns", report.colorRuns},
+                                                         {"messages", session.Messages()}});
+                         } else if (report.isMade) {
+                             result.text = Formatted(report, options.format);
                          }
                          return result;
                      });
@@ -149,19 +187,15 @@ int RunReport(const Options& options) {
 
 int RunExport(const Options& options) {
     RequireOutputDirectoryForSeveral(options);
-    return OverTests(options, "txt", [](const Session&, const std::filesystem::path&) {
-        return LogicText([] { return BuildCenterPivotSummary().append(kCrLf); });
+    return OverTests(options, "txt", [](const Session&, const TestKind& kind, const auto&) {
+        return LogicText(kind.buildSummary, kCrLf);
     });
 }
 
 int RunListing(const Options& options) {
-    return OverTests(options, "", [](const Session&, const std::filesystem::path&) {
-        return LogicText([] { return CenterPivotListingText(); });
+    return OverTests(options, "", [](const Session&, const TestKind& kind, const auto&) {
+        return LogicText(kind.listingText);
     });
-}
-
-int RunText(const Options& options) {
-    throw CommandError(kWrongUsage, options.files.front().native(), "rich text is not built yet");
 }
 
 } // namespace orvel::cli

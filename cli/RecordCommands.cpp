@@ -4,18 +4,13 @@
 #include "cli/ExitStatus.h"
 #include "cli/Json.h"
 #include "cli/Output.h"
-#include "cli/RecordJson.h"
 #include "cli/Session.h"
 #include "cli/Sink.h"
-#include "core/FileNames.h"
-#include "core/ProgramState.h"
-#include "core/RecordLayout.h"
-#include "core/RunTimeError.h"
+#include "cli/TestKinds.h"
 #include "core/SafeFile.h"
 
 #include <array>
 #include <cstdio>
-#include <cstring>
 #include <stdexcept>
 #include <string>
 
@@ -41,32 +36,15 @@ std::string ReadInput(const std::filesystem::path& file) {
     if (file == kStandardInput) {
         return ReadStandardInput();
     }
-    try {
-        return ReadFile(file);
-    } catch (const FileError& error) {
-        throw CommandError(kFileFailed, file.native(), error.what());
-    }
+    return ReadOrComplain(file, [&file] { return ReadFile(file); });
 }
 
 // The kind that the call or the output's extension says, else the one that the JSON names.
-std::string KindToBuild(const Options& options, const Json& json) {
-    const bool isExtensionKnown = HasExtension(options.output, "cpd") || HasExtension(options.output, "ssd");
-    if (options.kind.empty() && !isExtensionKnown && json.is_object()) {
-        for (const char* kind : {kCenterPivot, kSolidSet}) {
-            if (json.value("kind", Json()) == kind) {
-                return kind;
-            }
-        }
-    }
-    return KindOf(options.output, options.kind);
-}
-
-// A built file is new as a whole: nothing of an older one stays behind the record.
-void WriteWhole(const std::filesystem::path& output, const CenterPivotTest& test) {
-    const auto bytes = AsBytes(test);
-    std::string content(bytes.size(), '\0');
-    std::memcpy(content.data(), bytes.data(), bytes.size());
-    WriteOutput(output, content, Flush::ToDisk);
+const TestKind& KindToBuild(const Options& options, const Json& json) {
+    const bool isNamedByJsonAlone = options.kind.empty() && !HasKnownExtension(options.output);
+    const bool namesOne = json.is_object() && json.contains("kind") && json["kind"].is_string();
+    return KindOf(options.output,
+                  isNamedByJsonAlone && namesOne ? json["kind"].get<std::string>() : options.kind);
 }
 
 } // namespace
@@ -74,8 +52,8 @@ void WriteWhole(const std::filesystem::path& output, const CenterPivotTest& test
 int RunDump(const Options& options) {
     const std::filesystem::path& file = options.files.front();
     Sink sink(options, "");
-    (void)WorkableKindOf(file, options.kind);
-    sink.Take(file, JsonDocument(DumpTest(ReadTestFile(file))));
+    const TestKind& kind = KindOf(file, options.kind);
+    sink.Take(file, JsonDocument(ReadOrComplain(file, [&] { return kind.dump(file); })));
     sink.Finish();
     return kDone;
 }
@@ -85,10 +63,9 @@ int RunBuild(const Options& options) {
     RefuseToOverwriteInput(options.output, options.files);
     try {
         const Json json = ParseJson(ReadInput(file));
-        (void)WorkableKindOf(options.output, KindToBuild(options, json));
-        CenterPivotTest test = NewCenterPivotTest();
-        BuildTest(json, test);
-        WriteWhole(options.output, test);
+        const TestKind& kind = KindToBuild(options, json);
+        // A built file is new as a whole: nothing of an older one stays behind the record.
+        WriteOutput(options.output, kind.build(json), Flush::ToDisk);
     } catch (const CommandError&) {
         throw;
     } catch (const std::runtime_error& error) {

@@ -3,13 +3,18 @@
 #include "cli/ResultsOutput.h"
 
 #include "centerpivot/CenterPivot.h"
+#include "cli/Session.h"
 #include "core/CodePage.h"
 #include "core/NumberText.h"
 #include "core/ProgramState.h"
+#include "core/RunTimeError.h"
 #include "core/Text.h"
+#include "solidset/SolidSet.h"
 
 #include <array>
 #include <cmath>
+#include <initializer_list>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -17,12 +22,14 @@ namespace orvel::cli {
 
 namespace {
 
+// A result that is a Single, under its name.
+template <class Owner>
 struct NamedResult {
     const char* name;
-    float CenterPivotResults::*value;
+    float Owner::*value;
 };
 
-constexpr std::array<NamedResult, 8> kResults = {{
+constexpr std::array<NamedResult<CenterPivotResults>, 8> kPivotResults = {{
     {"MaximumDepth", &CenterPivotResults::MaximumDepth},
     {"AverageDepth", &CenterPivotResults::AverageDepth},
     {"ChristiansenCU", &CenterPivotResults::ChristiansenCU},
@@ -33,11 +40,15 @@ constexpr std::array<NamedResult, 8> kResults = {{
     {"ApplicationEfficiency", &CenterPivotResults::ApplicationEfficiency},
 }};
 
-constexpr const char* kApplicationRateName = "ApplicationRateAtLastTower";
+constexpr std::array<NamedResult<SolidSetResults>, 5> kSolidResults = {{
+    {"SolidSetMaximumDepth", &SolidSetResults::SolidSetMaximumDepth},
+    {"SolidSetAverageDepth", &SolidSetResults::SolidSetAverageDepth},
+    {"SolidSetCU", &SolidSetResults::SolidSetCU},
+    {"SolidSetDU", &SolidSetResults::SolidSetDU},
+    {"SolidSetApplicationRate", &SolidSetResults::SolidSetApplicationRate},
+}};
 
-std::span<const CupDepth> CountedCups() {
-    return std::span(CupDepths()).subspan(1, static_cast<std::size_t>(PivotResults().CupCount));
-}
+constexpr const char* kLastTowerRateName = "ApplicationRateAtLastTower";
 
 std::string NumberText(float value) {
     return std::isfinite(value) ? PlainText(value, InvariantNumberLocale()) : "not a number";
@@ -48,50 +59,83 @@ std::string ResultLine(std::string_view name, std::string_view value) {
     return PadText(name, kNameColumns, 'R', ' ').append(value).append("\n");
 }
 
-std::string CupLine(std::string_view sequence, std::string_view footage, std::string_view depth) {
+std::string CupLine(std::initializer_list<std::string_view> columns) {
     constexpr std::size_t kColumns = 12;
     std::string line;
-    for (const std::string_view column : {sequence, footage, depth}) {
-        line +=
-            column.size() < kColumns ? PadText(column, kColumns, 'L', ' ') : std::string{" "}.append(column);
+    for (const std::string_view column : columns) {
+        line += RightColumn(column, kColumns);
     }
     return line + "\n";
 }
 
+// Puts out results as far as they are Singles.
+template <class Owner>
+void AddSingles(Results& output, const Owner& results, std::span<const NamedResult<Owner>> named) {
+    for (const auto& [name, value] : named) {
+        output.json[name] = JsonSingle(results.*value);
+        output.listing += ResultLine(name, NumberText(results.*value));
+    }
+}
+
+// Nothing where it can't be computed. A run-time error is shown, but not a second one: an entry that ended
+// the calculation would only be reported twice.
+std::optional<float> LastTowerRate() {
+    std::optional<float> rate;
+    const auto compute = [&rate] { rate = ApplicationRateAtLastTower(); };
+    if (!Program().shownError) {
+        (void)Attempt(compute);
+        return rate;
+    }
+    try {
+        compute();
+    } catch (const RunTimeError&) { // NOLINT(bugprone-empty-catch)
+        // An error has been shown already.
+    }
+    return rate;
+}
+
 } // namespace
 
-Json CenterPivotResultsJson(const std::optional<float>& applicationRate) {
+Results CenterPivotResultsOutput() {
+    CalculateCenterPivot();
+    const std::optional<float> rate = LastTowerRate();
     const CenterPivotResults& results = PivotResults();
-    Json json = {{"kind", kCenterPivot},
-                 {"ReportTitle", ToUtf8(results.ReportTitle.Trimmed())},
-                 {"CupCount", results.CupCount}};
-    for (const NamedResult& result : kResults) {
-        json[result.name] = JsonSingle(results.*result.value);
-    }
-    json[kApplicationRateName] = applicationRate ? JsonSingle(*applicationRate) : Json(nullptr);
+    const std::string title = ToUtf8(results.ReportTitle.Trimmed());
+    Results output{{{"kind", kCenterPivot}, {"ReportTitle", title}, {"CupCount", results.CupCount}}, ""};
+    output.listing = ResultLine("ReportTitle", title);
+    output.listing += ResultLine("CupCount", std::to_string(results.CupCount));
+    AddSingles<CenterPivotResults>(output, results, kPivotResults);
+    output.json[kLastTowerRateName] = rate ? JsonSingle(*rate) : Json(nullptr);
+    output.listing += ResultLine(kLastTowerRateName, rate ? NumberText(*rate) : "not computed");
+    output.listing += CupLine({"Sequence", "Footage", "Depth"});
     Json cups = Json::array();
-    for (const CupDepth& cup : CountedCups()) {
+    for (const CupDepth& cup :
+         std::span(CupDepths()).subspan(1, static_cast<std::size_t>(results.CupCount))) {
         cups.push_back({{"Sequence", JsonSingle(cup.Sequence)},
                         {"Footage", JsonSingle(cup.Footage)},
                         {"Depth", JsonSingle(cup.Depth)}});
+        output.listing += CupLine({NumberText(cup.Sequence), NumberText(cup.Footage), NumberText(cup.Depth)});
     }
-    json["CupDepths"] = std::move(cups);
-    return json;
+    output.json["CupDepths"] = std::move(cups);
+    return output;
 }
 
-std::string CenterPivotResultsListing(const std::optional<float>& applicationRate) {
-    const CenterPivotResults& results = PivotResults();
-    std::string text = ResultLine("ReportTitle", results.ReportTitle.Trimmed());
-    text += ResultLine("CupCount", std::to_string(results.CupCount));
-    for (const NamedResult& result : kResults) {
-        text += ResultLine(result.name, NumberText(results.*result.value));
+Results SolidSetResultsOutput() {
+    CalculateSolidSet();
+    const SolidSetResults& results = SolidResults();
+    Results output{{{"kind", kSolidSet}, {"SolidSetCupCount", results.SolidSetCupCount}}, ""};
+    output.listing = ResultLine("SolidSetCupCount", std::to_string(results.SolidSetCupCount));
+    Json depths = Json::array();
+    std::string cupLines = CupLine({"Cup", "Depth"});
+    int cup = 0;
+    for (const float depth : SolidSetCountedDepths()) {
+        depths.push_back(JsonSingle(depth));
+        cupLines += CupLine({std::to_string(++cup), NumberText(depth)});
     }
-    text += ResultLine(kApplicationRateName, applicationRate ? NumberText(*applicationRate) : "not computed");
-    text += CupLine("Sequence", "Footage", "Depth");
-    for (const CupDepth& cup : CountedCups()) {
-        text += CupLine(NumberText(cup.Sequence), NumberText(cup.Footage), NumberText(cup.Depth));
-    }
-    return text;
+    output.json["SolidSetDepths"] = std::move(depths);
+    AddSingles<SolidSetResults>(output, results, kSolidResults);
+    output.listing += cupLines;
+    return output;
 }
 
 } // namespace orvel::cli

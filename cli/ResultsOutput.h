@@ -2,16 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/Json.h"
+#include "cli/TestKinds.h"
 
-#include <optional>
-#include <string>
-
-// The results of the last calculation, for programs and for people.
+// Runs the calculation of the open test and puts its results out.
 namespace orvel::cli {
 
-[[nodiscard]] Json CenterPivotResultsJson(const std::optional<float>& applicationRate);
-// One line for each result and each cup, numbers with "." in every locale; in the code page.
-[[nodiscard]] std::string CenterPivotResultsListing(const std::optional<float>& applicationRate);
+[[nodiscard]] Results CenterPivotResultsOutput();
+[[nodiscard]] Results SolidSetResultsOutput();
 
 } // namespace orvel::cli

@@ -3,53 +3,14 @@
 #include "cli/Session.h"
 
 #include "centerpivot/CenterPivot.h"
-#include "cli/ExitStatus.h"
 #include "cli/Output.h"
-#include "core/FileNames.h"
+#include "core/CodePage.h"
 #include "core/Messages.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
+#include "solidset/SolidSet.h"
 
 namespace orvel::cli {
-
-namespace {
-
-template <class Read>
-auto ReadOrComplain(const std::filesystem::path& file, Read read) {
-    try {
-        return read();
-    } catch (const FileError& error) {
-        throw CommandError(kFileFailed, file.native(), error.what());
-    }
-}
-
-} // namespace
-
-std::string KindOf(const std::filesystem::path& file, const std::string& namedKind) {
-    if (!namedKind.empty()) {
-        return namedKind;
-    }
-    if (HasExtension(file, "cpd")) {
-        return kCenterPivot;
-    }
-    if (HasExtension(file, "ssd")) {
-        return kSolidSet;
-    }
-    throw CommandError(kWrongUsage, file.native(),
-                       "neither .cpd nor .ssd; --kind says which kind of test it is");
-}
-
-std::string WorkableKindOf(const std::filesystem::path& file, const std::string& namedKind) {
-    std::string kind = KindOf(file, namedKind);
-    if (kind != kCenterPivot) {
-        throw CommandError(kWrongUsage, file.native(), "solid-set tests are not built yet");
-    }
-    return kind;
-}
-
-CenterPivotTest ReadTestFile(const std::filesystem::path& file) {
-    return ReadOrComplain(file, [&file] { return ReadTest<CenterPivotTest>(file); });
-}
 
 Session::Session(const Options& callOptions)
     : options(callOptions), clock(callOptions.now),
@@ -64,9 +25,11 @@ Session::~Session() {
     UsePlatform({});
 }
 
-FileResult Session::Run(const std::filesystem::path& file, const std::function<FileResult()>& work) {
-    Load(file);
-    FileResult result = work();
+FileResult Session::Run(const std::filesystem::path& file,
+                        const std::function<FileResult(const TestKind& kind)>& work) {
+    const TestKind& kind = KindOf(file, options.kind);
+    Load(kind, file);
+    FileResult result = work(kind);
     if (Program().shownError) {
         result.status = kRunTimeError;
     }
@@ -76,22 +39,21 @@ FileResult Session::Run(const std::filesystem::path& file, const std::function<F
     return result;
 }
 
-void Session::Load(const std::filesystem::path& file) {
+void Session::Load(const TestKind& kind, const std::filesystem::path& file) {
     collector.Clear();
     ResetProgram();
     ResetCenterPivot();
+    ResetSolidSet();
     ProgramState& program = Program();
     program.programDirectory = options.programDirectory;
     program.userSettings = userSettings;
     program.soilIntakeTable = soilIntakeTable;
-    program.testKind = WorkableKindOf(file, options.kind);
-    program.centerPivotTest = ReadTestFile(file);
-    program.centerPivotFile = file;
+    ReadOrComplain(file, [&] { kind.load(file); });
 }
 
 void Session::TellMessages(const std::filesystem::path& file) const {
     if (options.files.size() > 1 && !collector.Messages().empty()) {
-        PrintError("orvel-cli: " + file.native() + ":\n");
+        PrintError("orvel-cli: " + SystemToUtf8(file.native()) + ":\n");
     }
     for (const Message& message : collector.Messages()) {
         PrintError(MessageBlock(message));

@@ -2,9 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/ExitStatus.h"
 #include "cli/Options.h"
 #include "cli/Services.h"
+#include "cli/TestKinds.h"
 #include "core/Records.h"
+#include "core/RunTimeError.h"
 
 #include <filesystem>
 #include <functional>
@@ -13,15 +16,15 @@
 
 namespace orvel::cli {
 
-// The kind of a test file: the one that the call names, else by the extension. Raises CommandError when
-// neither says it.
-[[nodiscard]] std::string KindOf(const std::filesystem::path& file, const std::string& namedKind);
-
-// The same, and raises CommandError for a kind that can't be worked on yet.
-[[nodiscard]] std::string WorkableKindOf(const std::filesystem::path& file, const std::string& namedKind);
-
-// Reads a test file. Raises CommandError.
-[[nodiscard]] CenterPivotTest ReadTestFile(const std::filesystem::path& file);
+// Does a part of the work that reads a file; a failure becomes a CommandError.
+template <class Read>
+auto ReadOrComplain(const std::filesystem::path& file, Read read) {
+    try {
+        return read();
+    } catch (const FileError& error) {
+        throw CommandError(kFileFailed, file.native(), error.what());
+    }
+}
 
 // What a command made of one file: an ExitStatus, and the text to write (UTF-8) if there is one.
 struct FileResult {
@@ -39,16 +42,17 @@ public:
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // Loads the file and does the work. A run-time error that was shown on the way makes the status
-    // kRunTimeError. Without --json the boxes go to standard error. Raises CommandError for a file that can't
-    // be read.
-    FileResult Run(const std::filesystem::path& file, const std::function<FileResult()>& work);
+    // Loads the file and does the work for its kind. A run-time error that was shown on the way makes the
+    // status kRunTimeError. Without --json the boxes go to standard error. Raises CommandError for a file
+    // that can't be read.
+    FileResult Run(const std::filesystem::path& file,
+                   const std::function<FileResult(const TestKind& kind)>& work);
 
     // The boxes of the current file so far.
     [[nodiscard]] Json Messages() const { return MessagesJson(collector.Messages()); }
 
 private:
-    void Load(const std::filesystem::path& file);
+    void Load(const TestKind& kind, const std::filesystem::path& file);
     void TellMessages(const std::filesystem::path& file) const;
 
     const Options& options;

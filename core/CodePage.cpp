@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/CodePage.h"
 
+#include "core/Unicode.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <clocale>
@@ -14,70 +16,11 @@ namespace orvel {
 namespace {
 
 constexpr std::size_t kHalf = 128;
-constexpr char32_t kInvalid = 0xFFFFFFFF;
 constexpr char32_t kNoBreakSpace = 0x00A0;
 constexpr char32_t kNarrowNoBreakSpace = 0x202F;
 
 unsigned char Byte(char character) {
     return static_cast<unsigned char>(character);
-}
-
-void AppendUtf8(std::string& utf8, char32_t codePoint) {
-    const auto append = [&utf8](char32_t bits) { utf8 += static_cast<char>(bits); };
-    const auto continuation = [&append, codePoint](int shift) {
-        append(0x80 | ((codePoint >> shift) & 0x3F));
-    };
-    if (codePoint < 0x80) {
-        append(codePoint);
-    } else if (codePoint < 0x800) {
-        append(0xC0 | (codePoint >> 6));
-        continuation(0);
-    } else if (codePoint < 0x10000) {
-        append(0xE0 | (codePoint >> 12));
-        continuation(6);
-        continuation(0);
-    } else {
-        append(0xF0 | (codePoint >> 18));
-        continuation(12);
-        continuation(6);
-        continuation(0);
-    }
-}
-
-// Takes the next character off the text; kInvalid (and one byte) where the text is not UTF-8.
-char32_t TakeCharacter(std::string_view& utf8) {
-    const unsigned char lead = Byte(utf8.front());
-    std::size_t length = 1;
-    char32_t codePoint = lead;
-    char32_t least = 0;
-    if (lead >= 0xF0 && lead < 0xF8) {
-        length = 4;
-        codePoint = lead & 0x07U;
-        least = 0x10000;
-    } else if (lead >= 0xE0 && lead < 0xF0) {
-        length = 3;
-        codePoint = lead & 0x0FU;
-        least = 0x800;
-    } else if (lead >= 0xC0 && lead < 0xE0) {
-        length = 2;
-        codePoint = lead & 0x1FU;
-        least = 0x80;
-    } else if (lead >= 0x80) {
-        utf8.remove_prefix(1);
-        return kInvalid;
-    }
-    bool isValid = utf8.size() >= length;
-    for (std::size_t i = 1; isValid && i < length; ++i) {
-        isValid = (Byte(utf8[i]) & 0xC0U) == 0x80U;
-        codePoint = (codePoint << 6) | (Byte(utf8[i]) & 0x3FU);
-    }
-    const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    if (!isValid || codePoint < least || codePoint > 0x10FFFF || isSurrogate) {
-        utf8.remove_prefix(1);
-        return kInvalid;
-    }
-    utf8.remove_prefix(length);
-    return codePoint;
 }
 
 // One conversion descriptor from a character set to UTF-32.
@@ -226,7 +169,7 @@ std::string FromUtf8(std::string_view utf8) {
     const CodePage& page = CurrentCodePage();
     std::string text;
     while (!utf8.empty()) {
-        const char32_t codePoint = TakeCharacter(utf8);
+        const char32_t codePoint = TakeUtf8(utf8);
         std::optional<char> character = page.FromUnicode(codePoint);
         if (!character && codePoint == kNarrowNoBreakSpace) {
             character = page.FromUnicode(kNoBreakSpace);
@@ -240,11 +183,15 @@ std::string SystemToText(std::string_view systemText) {
     return CurrentCodePage().IsOfSystem() ? std::string{systemText} : FromUtf8(systemText);
 }
 
+std::string SystemToUtf8(std::string_view systemText) {
+    return CurrentCodePage().IsOfSystem() ? ToUtf8(systemText) : Utf8Of(UnicodeOf(systemText));
+}
+
 std::optional<std::string> FirstLackingCharacter(std::string_view utf8) {
     const CodePage& page = CurrentCodePage();
     while (!utf8.empty()) {
         const std::string_view before = utf8;
-        if (!page.FromUnicode(TakeCharacter(utf8))) {
+        if (!page.FromUnicode(TakeUtf8(utf8))) {
             return std::string{before.substr(0, before.size() - utf8.size())};
         }
     }

@@ -52,6 +52,9 @@ void UseCodePage(const CodePage& page);
 // in that page, else from UTF-8.
 [[nodiscard]] std::string SystemToText(std::string_view systemText);
 
+// The same as UTF-8, whatever the current page can hold; a byte that is no part of the text becomes U+FFFD.
+[[nodiscard]] std::string SystemToUtf8(std::string_view systemText);
+
 // The first character (as UTF-8) that the current page lacks; nothing when it has them all.
 [[nodiscard]] std::optional<std::string> FirstLackingCharacter(std::string_view utf8);
 

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "core/Arithmetic.h"
+#include "core/FixedText.h"
 #include "core/Records.h"
 #include "core/Text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -32,6 +34,14 @@ public:
 
     // Appends one warning, which only informs, as a line.
     void AddWarning(std::string_view line) { warnings.append(line).append(kCrLf); }
+
+    // Adds an error when the field is blank; it is trimmed in the record.
+    template <std::size_t N>
+    void RequireEntry(FixedText<N>& field, std::string_view error) {
+        if (field.TrimInPlace().empty()) {
+            AddError(error);
+        }
+    }
 
     // The two errors about too few measurements; no cup at all draws both.
     void CheckCupCount(std::int16_t cupCount);

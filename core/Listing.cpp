@@ -15,6 +15,8 @@ namespace {
 
 constexpr std::size_t kLabelColumns = 34;
 constexpr std::size_t kLeastCommentWidth = 500;
+constexpr std::size_t kCupColumns = 8;
+constexpr std::size_t kNumberColumns = 10;
 
 std::string ValueText(std::span<const std::byte> bytes, FieldKind kind) {
     if (kind == FieldKind::Text) {
@@ -25,7 +27,7 @@ std::string ValueText(std::span<const std::byte> bytes, FieldKind kind) {
     if (kind == FieldKind::Flag) {
         Flag flag;
         std::memcpy(&flag, bytes.data(), sizeof flag);
-        return flag.IsSet() ? "True" : "False";
+        return std::string{BooleanWord(flag.IsSet())};
     }
     Raise(ErrorNumber::InvalidProcedureCall);
 }
@@ -51,6 +53,14 @@ std::string ListingFields(std::span<const std::byte> record, std::span<const Fie
         text += kCrLf;
     }
     return text;
+}
+
+std::string ListingRow(std::initializer_list<std::string_view> columns) {
+    std::string row;
+    for (const std::string_view column : columns) {
+        row += RightColumn(column, row.empty() ? kCupColumns : kNumberColumns);
+    }
+    return row.append(kCrLf);
 }
 
 } // namespace orvel

@@ -5,6 +5,7 @@
 #include "core/RecordLayout.h"
 
 #include <cstddef>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,5 +26,9 @@ struct ListingLabel {
 // label. Raises Invalid procedure call for a label whose field is not a text or flag of the record.
 [[nodiscard]] std::string ListingFields(std::span<const std::byte> record, std::span<const Field> fields,
                                         std::span<const ListingLabel> labels);
+
+// One line of the measurements: the cup's number, then its columns, each text on the right of its own. What
+// is wider than its column widens the line, a blank before it.
+[[nodiscard]] std::string ListingRow(std::initializer_list<std::string_view> columns);
 
 } // namespace orvel

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Text.h"
 
+#include <algorithm>
+
 namespace orvel {
 
 namespace {
@@ -53,8 +55,21 @@ std::string PadText(std::string_view text, std::size_t width, char alignment, ch
     return padded;
 }
 
+std::string RightColumn(std::string_view text, std::size_t width) {
+    return PadText(text, std::max(width, Trim(text).size() + 1), 'L', kBlank);
+}
+
+std::string_view BooleanWord(bool value) {
+    return value ? "True" : "False";
+}
+
+std::string Rule() {
+    std::string rule(kReportColumns, '=');
+    return rule;
+}
+
 std::string RuleLine() {
-    return std::string(kReportColumns, '=').append(kCrLf);
+    return Rule().append(kCrLf);
 }
 
 } // namespace orvel

@@ -24,7 +24,15 @@ inline constexpr std::size_t kReportColumns = 80;
 // and cuts to the width again. Any other letter fills nothing.
 [[nodiscard]] std::string PadText(std::string_view text, std::size_t width, char alignment, char fill);
 
-// The line between two sections of a report: 80 "=" and a line end.
+// A text on the right of a column of `width` characters. One that leaves no blank before it is not cut: it
+// takes a blank and the room it needs.
+[[nodiscard]] std::string RightColumn(std::string_view text, std::size_t width);
+
+// "True" or "False".
+[[nodiscard]] std::string_view BooleanWord(bool value);
+
+// The line between two sections of a report: 80 "=", and with a line end.
+[[nodiscard]] std::string Rule();
 [[nodiscard]] std::string RuleLine();
 
 } // namespace orvel

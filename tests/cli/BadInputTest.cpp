@@ -76,16 +76,6 @@ TEST_F(BadInput, WrongCallsAreOneLineWithStatusTwo) {
     }
 }
 
-TEST_F(BadInput, WhatIsNotBuiltYetSaysSo) {
-    const std::string solidSet = Write("set.ssd");
-    for (const char* command : {"results", "check", "report", "export", "listing", "dump"}) {
-        ExpectOneLine(RunProgram({command, solidSet}), 2, solidSet + ": solid-set tests are not built yet");
-    }
-    ExpectOneLine(RunProgram({"text", "a.rtf"}), 2, "a.rtf: rich text is not built yet");
-    ExpectOneLine(RunProgram({"report", kPivot, "--format", "rtf"}), 2, "--format rtf: not built yet");
-    ExpectOneLine(RunProgram({"report", kPivot, "--format", "html"}), 2, "--format html: not built yet");
-}
-
 TEST_F(BadInput, AnEpochThatIsNoNumberIsAWrongCall) {
     const RunResult run =
         RunProgram(Call{.arguments = {"report", kPivot}, .environment = {{"SOURCE_DATE_EPOCH", "soon"}}});

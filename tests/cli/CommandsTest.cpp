@@ -87,7 +87,7 @@ TEST_F(Commands, ReportAsJsonHoldsTheTextAndTheMessages) {
     const Json json = ParseJson(run.out);
     EXPECT_EQ(json["ok"], true);
     EXPECT_TRUE(json["text"].get<std::string>().starts_with("                 Center Pivot Water"));
-    EXPECT_EQ(json["colorRuns"], Json::array());
+    EXPECT_EQ(json["colorRuns"].size(), 6U);
     ASSERT_EQ(json["messages"].size(), 1U);
     EXPECT_EQ(json["messages"][0]["title"], "Possible Errors in Data");
     EXPECT_EQ(json["messages"][0]["buttons"], "OK");

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "report/RichTextBox.h"
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace orvel {
+
+// A rich-text box that nobody sees, for making documents without a window.
+class MemoryRichTextBox : public RichTextBox {
+public:
+    [[nodiscard]] std::string Text() const override { return text; }
+    void SetText(std::string_view newText) override;
+
+    void Select(std::size_t start, std::size_t length) override;
+    [[nodiscard]] std::size_t SelectionStart() const override { return selectionStart; }
+    [[nodiscard]] std::size_t SelectionLength() const override { return selectionLength; }
+
+    [[nodiscard]] bool IsSelectionBold() const override;
+    void SetSelectionBold(bool isBold) override;
+    [[nodiscard]] bool IsSelectionItalic() const override;
+    void SetSelectionItalic(bool isItalic) override;
+    void SetSelectionColor(Color color) override;
+    void SetSelectionFontName(const std::string& name) override;
+    void SetSelectionFontSize(int points) override;
+    void SetFontName(const std::string& name) override;
+
+    [[nodiscard]] bool IsReadOnly() const override { return isLocked; }
+    void SetReadOnly(bool isReadOnly) override { isLocked = isReadOnly; }
+
+    void Load(const std::filesystem::path& file) override;
+    void Save(const std::filesystem::path& file) const override;
+
+    // The text with its formats; a CR LF, or either alone, ends a paragraph.
+    [[nodiscard]] RichDocument Document() const;
+
+private:
+    using Change = std::function<void(CharacterFormat&)>;
+    using FormatNumber = std::uint32_t;
+
+    void Show(const RichDocument& document);
+    void ChangeSelection(const Change& change);
+    [[nodiscard]] bool HasAllOfSelection(bool CharacterFormat::*property) const;
+    [[nodiscard]] FormatNumber NumberOf(const CharacterFormat& format);
+
+    std::string text;
+    // Each character's format, as an index into the formats seen so far.
+    std::vector<FormatNumber> formatNumbers;
+    std::vector<CharacterFormat> formats;
+    CharacterFormat caretFormat;
+    std::size_t selectionStart = 0;
+    std::size_t selectionLength = 0;
+    bool isLocked = false;
+};
+
+} // namespace orvel

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "report/RichText.h"
+
+#include <string>
+
+namespace orvel {
+
+// A document as rich text that word processors open unchanged; pure ASCII, lines ended by CR LF. Reading it
+// gives the same document.
+[[nodiscard]] std::string WriteRtf(const RichDocument& document);
+
+} // namespace orvel
