@@ -7,14 +7,16 @@
 #include "cli/Options.h"
 #include "cli/Output.h"
 #include "cli/Services.h"
+#include "core/CodePage.h"
 #include "core/ProgramState.h"
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
 #include <array>
 #include <exception>
+#include <sstream>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 namespace orvel::cli {
@@ -32,6 +34,7 @@ enum Accepts : unsigned {
     kJson = 1U << 1U,
     kFormat = 1U << 2U,
     kOutputDirectory = 1U << 3U,
+    kKind = 1U << 4U,
 };
 
 struct Command {
@@ -39,16 +42,20 @@ struct Command {
     int (*run)(const Options&);
     unsigned accepts;
     const char* about;
+    const char* file; // what its FILE is
 };
 
+constexpr const char* kTestFile = "A test file, .cpd or .ssd";
+
 constexpr std::array<Command, 7> kCommands = {{
-    {"results", RunResults, kSeveralFiles | kJson, "Calculate and print every result"},
-    {"check", RunCheck, kJson, "Run the data checks: status 0 when a report may be built"},
-    {"report", RunReport, kSeveralFiles | kJson | kFormat | kOutputDirectory, "Check, calculate and report"},
-    {"export", RunExport, kSeveralFiles | kOutputDirectory, "The comma-separated summary"},
-    {"listing", RunListing, 0, "The data listing"},
-    {"dump", RunDump, 0, "The record as JSON"},
-    {"text", RunText, kJson, "The plain text of a rich-text file"},
+    {"results", RunResults, kSeveralFiles | kJson | kKind, "Calculate and print every result", kTestFile},
+    {"check", RunCheck, kJson | kKind, "Run the data checks: status 0 when a report may be built", kTestFile},
+    {"report", RunReport, kSeveralFiles | kJson | kFormat | kOutputDirectory | kKind,
+     "Check, calculate and report", kTestFile},
+    {"export", RunExport, kSeveralFiles | kOutputDirectory | kKind, "The comma-separated summary", kTestFile},
+    {"listing", RunListing, kKind, "The data listing", kTestFile},
+    {"dump", RunDump, kKind, "The record as JSON", kTestFile},
+    {"text", RunText, kJson, "The plain text of a rich-text file", "A rich-text file"},
 }};
 
 std::filesystem::path FolderOfExecutable() {
@@ -56,57 +63,135 @@ std::filesystem::path FolderOfExecutable() {
     return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
 }
 
+// Without a name of its own: the help shows the option's type name.
+CLI::Validator Check(std::string (*complaint)(const std::string&)) {
+    return {[complaint](const std::string& value) { return complaint(value); }, ""};
+}
+
 std::string NoMoment(const std::string& text) {
     return ParseDateTime(text) ? "" : "must be a date and time, YYYY-MM-DD HH:MM:SS";
 }
 
+std::string NoName(const std::string& text) {
+    return text.empty() ? "must not be empty" : "";
+}
+
+std::string NoFolder(const std::string& text) {
+    std::error_code error;
+    if (text.empty() || std::filesystem::is_directory(text, error)) {
+        return NoName(text);
+    }
+    return "no such folder: " + text;
+}
+
+std::string NoKind(const std::string& text) {
+    return text == kCenterPivot || text == kSolidSet ? "" : "must be centerPivot or solidSet";
+}
+
+std::string NoFormat(const std::string& text) {
+    return text == "text" || text == "rtf" || text == "html" ? "" : "must be text, rtf or html";
+}
+
+CLI::Option* AddFiles(CLI::App& command, const char* name, const char* about, Options& options) {
+    return command.add_option(name, options.files, about)->required()->type_name("")->check(Check(NoName));
+}
+
+CLI::Option* AddOutput(CLI::App& command, const char* about, Options& options) {
+    return command.add_option("-o,--output", options.output, about)->type_name("FILE")->check(Check(NoName));
+}
+
 void AddKind(CLI::App& command, Options& options) {
     command.add_option("--kind", options.kind, "The kind of test, whatever the extension says")
-        ->check(CLI::IsMember({kCenterPivot, kSolidSet}));
+        ->type_name("centerPivot|solidSet")
+        ->check(Check(NoKind));
+}
+
+// What every command takes, whether it has a use for it or not.
+void AddSurroundings(CLI::App& command, Options& options) {
+    command
+        .add_option("--program-dir", options.programDirectory,
+                    "Where user.usr and soil.dat are (default: the program's folder)")
+        ->type_name("FOLDER")
+        ->check(Check(NoFolder));
+    command
+        .add_option_function<std::string>(
+            "--now", [&options](const std::string& text) { options.now = ParseDateTime(text); },
+            "The date and time to print, YYYY-MM-DD HH:MM:SS")
+        ->type_name("TIME")
+        ->check(Check(NoMoment));
 }
 
 void AddCommand(CLI::App& app, const Command& row, Options& options) {
     CLI::App* command = app.add_subcommand(row.name, row.about);
-    CLI::Option* files = command->add_option("FILE", options.files, "A test file")->required();
+    CLI::Option* files = AddFiles(*command, "FILE", row.file, options);
     if ((row.accepts & kSeveralFiles) == 0) {
         files->expected(1);
     }
-    AddKind(*command, options);
-    command
-        ->add_option("--program-dir", options.programDirectory,
-                     "Where user.usr and soil.dat are (default: the program's folder)")
-        ->check(CLI::ExistingDirectory);
-    command
-        ->add_option_function<std::string>(
-            "--now", [&options](const std::string& text) { options.now = ParseDateTime(text); },
-            "The date and time to print, YYYY-MM-DD HH:MM:SS")
-        ->check(CLI::Validator(NoMoment, "TIME"));
-    CLI::Option* output =
-        command->add_option("-o,--output", options.output, "Write to this file instead of standard output");
+    if ((row.accepts & kKind) != 0) {
+        AddKind(*command, options);
+    }
+    AddSurroundings(*command, options);
+    CLI::Option* output = AddOutput(*command, "Write to this file instead of standard output", options);
     CLI::Option* json = nullptr;
     if ((row.accepts & kJson) != 0) {
-        json = command->add_flag("--json", options.json, "Print JSON, messages included");
+        json = command->add_flag("--json", options.json, "Print JSON, messages included")
+                   ->disable_flag_override();
     }
     if ((row.accepts & kFormat) != 0) {
         command->add_option("--format", options.format, "The report's form (default: text)")
-            ->check(CLI::IsMember({"text", "rtf", "html"}))
+            ->type_name("text|rtf|html")
+            ->check(Check(NoFormat))
             ->excludes(json);
     }
     if ((row.accepts & kOutputDirectory) != 0) {
         command
             ->add_option("--output-dir", options.outputDirectory, "Write a file for each test to this folder")
-            ->check(CLI::ExistingDirectory)
+            ->type_name("FOLDER")
+            ->check(Check(NoFolder))
             ->excludes(output);
     }
 }
 
 void AddBuild(CLI::App& app, Options& options) {
     CLI::App* command = app.add_subcommand("build", "A test file from JSON");
-    command->add_option("JSON", options.files, "The JSON file, or - for standard input")
-        ->required()
-        ->expected(1);
+    AddFiles(*command, "JSON", "The JSON file, or - for standard input", options)->expected(1);
     AddKind(*command, options);
-    command->add_option("-o,--output", options.output, "The test file to write")->required();
+    AddSurroundings(*command, options);
+    AddOutput(*command, "The test file to write, .cpd or .ssd", options)->required();
+}
+
+// What an argument that nothing knows says about the call.
+std::string UnknownArgument(const CLI::App& app) {
+    if (app.remaining_size() == 0) {
+        const CLI::App& command = *app.get_subcommands().front();
+        return "unknown option for " + command.get_name() + ": " + command.remaining().front();
+    }
+    const std::string first = app.remaining().front();
+    return (first.starts_with("-") ? "unknown option before the command: " : "unknown command: ") + first;
+}
+
+// The library's words for a wrong number of values are a programmer's.
+std::string WrongNumber(const std::string& command, std::string_view complaint) {
+    const std::string name{complaint.substr(0, complaint.find_first_of(": "))};
+    if (complaint.ends_with("flag override")) {
+        return "--" + name + " takes no value";
+    }
+    if (complaint.ends_with("missing")) {
+        return name + " needs a value";
+    }
+    return name.starts_with("-") ? name + " is given more than once" : command + " takes only one " + name;
+}
+
+std::string WrongCall(const CLI::App& app, const CLI::ParseError& error) {
+    if (app.remaining_size(true) > 0) {
+        return UnknownArgument(app);
+    }
+    if (app.get_subcommands().empty()) {
+        return "a command is missing; --help lists them";
+    }
+    const bool isWrongNumber = dynamic_cast<const CLI::ArgumentMismatch*>(&error) != nullptr;
+    return isWrongNumber ? WrongNumber(app.get_subcommands().front()->get_name(), error.what())
+                         : error.what();
 }
 
 int Dispatch(const CLI::App& app, const Options& options) {
@@ -133,11 +218,13 @@ int ReadAndRun(int argc, const char* const* argv) {
         app.parse(argc, argv);
     } catch (const CLI::Success& request) {
         // --help or --version.
-        return app.exit(request);
+        std::ostringstream text;
+        const int status = app.exit(request, text, text);
+        Print(text.str());
+        FlushOutput();
+        return status;
     } catch (const CLI::ParseError& error) {
-        std::string reason = error.what();
-        std::ranges::replace(reason, '\n', ' ');
-        throw CommandError(kWrongUsage, "", reason);
+        throw CommandError(kWrongUsage, "", SystemToUtf8(WrongCall(app, error)));
     }
     return Dispatch(app, options);
 }

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace orvel::cli {
@@ -21,8 +22,13 @@ using Json = nlohmann::basic_json<nlohmann::ordered_map, std::vector, std::strin
 [[nodiscard]] std::string JsonDocument(const Json& json);
 [[nodiscard]] std::string JsonLine(const Json& json);
 
-// Reads one document. Raises std::runtime_error, saying what is wrong and where, for text that is no JSON, an
-// object that names a member twice, or a number that no Single holds.
+// A name or value as a complaint shows it: as JSON writes it, in quotes, a long one shortened.
+[[nodiscard]] std::string Quoted(std::string_view utf8);
+
+// Reads one document, in time and memory that grow with its length alone. Numbers that a Single can't tell
+// from 0 are 0, with their sign. Raises std::runtime_error, saying what is wrong and at which line and column
+// (in bytes, from 1) reading stopped, for text that is no JSON, an object that names a member twice, a number
+// that no Single holds, or more than 64 objects and arrays in one another.
 [[nodiscard]] Json ParseJson(const std::string& text);
 
 } // namespace orvel::cli

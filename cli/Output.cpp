@@ -3,11 +3,13 @@
 #include "cli/Output.h"
 
 #include "cli/ExitStatus.h"
+#include "core/CodePage.h"
 #include "core/RunTimeError.h"
+#include "core/Unicode.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdio>
-#include <string>
 #include <system_error>
 
 namespace orvel::cli {
@@ -17,6 +19,29 @@ namespace {
 [[noreturn]] void FailToPrint() {
     throw CommandError(kFileFailed, "standard output",
                        "cannot write: " + std::generic_category().message(errno));
+}
+
+// Whether a terminal, or a reader of lines, takes the character for more than something to show.
+bool IsControl(char32_t character) {
+    constexpr char32_t kLineSeparator = 0x2028;
+    constexpr char32_t kParagraphSeparator = 0x2029;
+    return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == kLineSeparator ||
+           character == kParagraphSeparator;
+}
+
+std::string Escaped(char32_t control) {
+    switch (control) {
+    case '\n':
+        return "\\n";
+    case '\r':
+        return "\\r";
+    case '\t':
+        return "\\t";
+    default:
+        std::array<char, 7> text{};
+        (void)std::snprintf(text.data(), text.size(), "\\u%04x", static_cast<unsigned>(control));
+        return text.data();
+    }
 }
 
 } // namespace
@@ -38,12 +63,24 @@ void PrintError(std::string_view text) {
     (void)std::fwrite(text.data(), 1, text.size(), stderr);
 }
 
+std::string OnOneLine(std::string_view utf8) {
+    std::string line;
+    for (const char32_t character : UnicodeOf(utf8)) {
+        if (IsControl(character)) {
+            line += Escaped(character);
+        } else {
+            AppendUtf8(line, character);
+        }
+    }
+    return line;
+}
+
 void PrintComplaint(std::string_view subject, std::string_view reason) {
     std::string line = "orvel-cli: ";
     if (!subject.empty()) {
-        line.append(subject).append(": ");
+        line.append(OnOneLine(SystemToUtf8(subject))).append(": ");
     }
-    PrintError(line.append(reason).append("\n"));
+    PrintError(line.append(OnOneLine(reason)).append("\n"));
 }
 
 void WriteOutput(const std::filesystem::path& path, std::string_view content, Flush flush) {

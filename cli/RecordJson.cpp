@@ -13,6 +13,7 @@
 #include <span>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 
 namespace orvel::cli {
 
@@ -43,7 +44,7 @@ struct Shape<SolidSetTest> {
 };
 
 [[noreturn]] void Refuse(std::string_view name, const std::string& reason) {
-    throw std::runtime_error("\"" + std::string{name} + "\" " + reason);
+    throw std::runtime_error(Quoted(name) + " " + reason);
 }
 
 template <class Value>
@@ -99,14 +100,17 @@ void BuildText(std::string_view name, Bytes bytes, const Json& json) {
         Refuse(name, "must be a text");
     }
     const auto& utf8 = json.get_ref<const std::string&>();
+    // One byte of the code page for each character; those that only go on with one don't count.
+    const auto length = std::ranges::count_if(
+        utf8, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; });
+    if (std::cmp_greater(length, bytes.size())) {
+        Refuse(name, "has " + std::to_string(length) + " characters, but its field holds " +
+                         std::to_string(bytes.size()));
+    }
     if (const auto lacking = FirstLackingCharacter(utf8)) {
         Refuse(name, "has a character that the code page lacks: " + *lacking);
     }
     const std::string text = FromUtf8(utf8);
-    if (text.size() > bytes.size()) {
-        Refuse(name, "has " + std::to_string(text.size()) + " characters, but its field holds " +
-                         std::to_string(bytes.size()));
-    }
     std::ranges::fill(bytes, std::byte{' '});
     std::memcpy(bytes.data(), text.data(), text.size());
 }

@@ -97,7 +97,7 @@ DateTime CommandClock::Now() {
         return *fixed;
     }
     const char* epoch = std::getenv("SOURCE_DATE_EPOCH"); // NOLINT(concurrency-mt-unsafe): one thread
-    if (epoch == nullptr) {
+    if (epoch == nullptr || *epoch == '\0') {
         return LocalTime();
     }
     // The last second of the year 9999: more digits than four would not fit the report's date.
@@ -128,7 +128,7 @@ std::optional<DateTime> ParseDateTime(std::string_view text) {
                                       chrono::month(static_cast<unsigned>(moment.month)),
                                       chrono::day(static_cast<unsigned>(moment.day))};
     const bool isTime = moment.hour < 24 && moment.minute < 60 && moment.second < 60;
-    return date.ok() && isTime ? std::optional(moment) : std::nullopt;
+    return date.ok() && moment.year >= 1 && isTime ? std::optional(moment) : std::nullopt;
 }
 
 std::string MessageBlock(const Message& message) {

@@ -31,7 +31,7 @@ public:
     void Beep() override {}
 };
 
-// The time that was given, else SOURCE_DATE_EPOCH (UTC), else the local time.
+// The time that was given, else SOURCE_DATE_EPOCH (UTC; an empty one counts as unset), else the local time.
 class CommandClock : public Clock {
 public:
     explicit CommandClock(const std::optional<DateTime>& given) : fixed(given) {}
@@ -42,7 +42,7 @@ private:
     std::optional<DateTime> fixed;
 };
 
-// "YYYY-MM-DD HH:MM:SS"; nothing when it is no date and time of that form.
+// "YYYY-MM-DD HH:MM:SS"; nothing when it is no date and time of that form, or before the year 1.
 [[nodiscard]] std::optional<DateTime> ParseDateTime(std::string_view text);
 
 // A box as a block for a terminal: "[title]", its text with LF line ends, an empty line.

@@ -4,6 +4,7 @@
 
 #include "cli/ExitStatus.h"
 #include "cli/Output.h"
+#include "core/CodePage.h"
 
 #include <set>
 
@@ -20,7 +21,8 @@ Sink::Sink(const Options& callOptions, std::string_view extensionOfOutputs)
             const std::filesystem::path output = OutputFor(file);
             if (!outputs.insert(output).second) {
                 throw CommandError(kWrongUsage, file.native(),
-                                   "another file would be written to " + output.native() + " too");
+                                   "another file would be written to " + SystemToUtf8(output.native()) +
+                                       " too");
             }
             RefuseToOverwriteInput(output, options.files);
         }
@@ -46,6 +48,7 @@ void Sink::Finish() {
 }
 
 std::filesystem::path Sink::OutputFor(const std::filesystem::path& file) const {
+    // A name that is nothing but ".cpd" stays whole, so that its output has a name too.
     return options.outputDirectory / (file.stem().native() + "." + extension);
 }
 

@@ -132,6 +132,14 @@ fs::path WithoutLinks(fs::path path) {
     return path;
 }
 
+// Whether the name belongs to that file. "/dev/stdout" on a file that was deleted leads to one without a
+// name.
+bool Is(const fs::path& name, const struct stat& file) {
+    struct stat found {};
+
+    return ::stat(name.c_str(), &found) == 0 && found.st_dev == file.st_dev && found.st_ino == file.st_ino;
+}
+
 mode_t PermissionsOfNewFile() {
     const mode_t mask = ::umask(0);
     ::umask(mask);
@@ -275,23 +283,28 @@ void ReplaceFile(const fs::path& path, std::string_view content, Flush flush) {
     if (path.empty()) {
         throw FileError("cannot open for writing", ENOENT);
     }
-    const fs::path target = WithoutLinks(path);
 
     struct stat old {};
 
-    if (::stat(target.c_str(), &old) == -1) {
+    if (::stat(path.c_str(), &old) == -1) {
         if (errno != ENOENT) {
             Fail("cannot open for writing");
         }
-        ReplaceByRename(target, nullptr, content, flush);
+        ReplaceByRename(WithoutLinks(path), nullptr, content, flush);
     } else if (S_ISREG(old.st_mode)) {
         // Renaming over a file asks nothing of the file itself, so a read-only one is refused here.
-        if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == -1) {
+        if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == -1) {
             Fail("cannot open for writing");
         }
-        ReplaceByRename(target, &old, content, flush);
+        const fs::path target = WithoutLinks(path);
+        if (Is(target, old)) {
+            ReplaceByRename(target, &old, content, flush);
+        } else {
+            OverwriteInPlace(path, content, flush);
+        }
     } else if (S_ISCHR(old.st_mode) || S_ISBLK(old.st_mode) || S_ISFIFO(old.st_mode)) {
-        WriteStraight(target, content);
+        // Not by what its links say: "/dev/stdout" on a pipe says "pipe:[1234]", which is no name.
+        WriteStraight(path, content);
     } else {
         throw FileError("cannot write to what is no file", S_ISDIR(old.st_mode) ? EISDIR : EINVAL);
     }

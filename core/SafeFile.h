@@ -23,7 +23,8 @@ enum class Flush { ToDisk, Lazy };
 // characters) in the same folder, which takes the old file's permissions and replaces it; a failure on the
 // way leaves the old file as it was and removes the temporary. A symbolic link stays, its target is replaced.
 // Where the folder lets no file be created or replaced but the file may be written, it is overwritten in
-// place, and the old bytes are put back when that fails. A device or a pipe is written straight; a folder, a
+// place, and the old bytes are put back when that fails; so is a file without a name (one that was deleted,
+// behind "/dev/stdout"). A device or a pipe, "/dev/stdout" on one included, is written straight; a folder, a
 // socket and a file without write permission are errors.
 void ReplaceFile(const std::filesystem::path& path, std::string_view content, Flush flush);
 

@@ -27,8 +27,8 @@ constexpr std::array<Charset, 19> kCharsets = {{
 }};
 
 struct Page {
-    int number;
-    const char* name; // as iconv knows it
+    int number = 0;
+    const char* name = ""; // as iconv knows it
     bool isMultiByte = false;
 };
 

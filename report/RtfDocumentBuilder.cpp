@@ -7,6 +7,9 @@
 namespace orvel {
 
 void RtfDocumentBuilder::Append(std::u32string_view text, const RtfFormat& format) {
+    if (text.empty()) {
+        return;
+    }
     if (format != runFormat) {
         EndRun();
         runFormat = format;
@@ -45,16 +48,12 @@ void RtfDocumentBuilder::EndRun() {
 
 CharacterFormat RtfDocumentBuilder::Resolved(const RtfFormat& format) const {
     CharacterFormat resolved;
-    if (const auto font = fonts.find(format.font); font != fonts.end()) {
-        resolved.font = font->second.name;
-    }
+    resolved.font = tables.FontName(format.font);
     resolved.halfPoints = format.halfPoints;
     resolved.isBold = format.isBold;
     resolved.isItalic = format.isItalic;
     resolved.isUnderlined = format.isUnderlined;
-    if (format.color >= 0 && static_cast<std::size_t>(format.color) < colors.size()) {
-        resolved.color = colors[static_cast<std::size_t>(format.color)];
-    }
+    resolved.color = tables.ColorOf(format.color);
     return resolved;
 }
 

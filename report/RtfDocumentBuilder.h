@@ -3,12 +3,10 @@
 #pragma once
 
 #include "report/RichText.h"
-#include "report/RtfCharset.h"
+#include "report/RtfTables.h"
 
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <vector>
 
 namespace orvel {
 
@@ -16,7 +14,7 @@ namespace orvel {
 struct RtfFormat {
     int font = 0;
     int halfPoints = 24;
-    int color = 0;
+    int color = kNoColor;
     bool isBold = false;
     bool isItalic = false;
     bool isUnderlined = false;
@@ -24,17 +22,12 @@ struct RtfFormat {
     bool operator==(const RtfFormat&) const = default;
 };
 
-struct RtfFont {
-    std::string name; // UTF-8
-    int codePage = 0; // 0: the document's
-};
-
 // Puts a document together from characters and their formats. Formats are looked up in the tables only where
 // they change, so that long texts and long tables cost no more than their length.
 class RtfDocumentBuilder {
 public:
-    std::unordered_map<int, RtfFont> fonts;
-    std::vector<std::optional<Color>> colors;
+    // The tables must outlive the builder.
+    explicit RtfDocumentBuilder(const RtfTables& ofFile) : tables(ofFile) {}
 
     // Control characters other than tab are left out.
     void Append(std::u32string_view text, const RtfFormat& format);
@@ -49,6 +42,7 @@ private:
     void EndRun();
     [[nodiscard]] CharacterFormat Resolved(const RtfFormat& format) const;
 
+    const RtfTables& tables;
     RichDocument document;
     RtfFormat runFormat;
     std::u32string run;

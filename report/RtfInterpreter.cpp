@@ -11,8 +11,6 @@ namespace orvel {
 
 namespace {
 
-// A name that is longer is cut: it would be copied to each of its runs.
-constexpr std::size_t kLongestFontName = 255;
 constexpr int kLargestHalfPoints = 32767;
 
 // The bullet of symbol fonts, in the private area of Unicode.
@@ -25,10 +23,6 @@ bool IsHighSurrogate(char32_t unit) {
 
 bool IsLowSurrogate(char32_t unit) {
     return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
-std::uint8_t ColorComponent(int number) {
-    return static_cast<std::uint8_t>(std::clamp(number, 0, 255));
 }
 
 // A word that switches something on, or with the number 0 off.
@@ -73,12 +67,12 @@ void RtfInterpreter::Close() {
     DecodeBytes();
     Put({});
     fallbackLeft = 0;
-    if (state.destination == Destination::Fonts && !fontName.empty()) {
-        EndFontName();
-    } else if (state.destination == Destination::Colors && hasTableColor) {
-        EndColor();
+    const Destination left = std::exchange(state, saved.back().state).destination;
+    if (left == Destination::Fonts && state.destination != left) {
+        tables.EndFont();
+    } else if (left == Destination::Colors && state.destination != left) {
+        tables.EndColor();
     }
-    state = saved.back().state;
     if (--saved.back().groups == 0) {
         saved.pop_back();
     }
@@ -150,7 +144,7 @@ void RtfInterpreter::ObeyWord(const RtfToken& word) {
     } else if (state.destination != Destination::Shown) {
         ObeyTableWord(*rule, word);
     } else if (rule->action <= RtfAction::EndRow) {
-        ObeyTextWord(*rule, word);
+        ObeyTextWord(*rule);
     } else {
         ObeyFormatWord(*rule, word);
     }
@@ -192,7 +186,7 @@ void RtfInterpreter::ObeyDocumentWord(const RtfRule& rule, const RtfToken& word)
     }
 }
 
-void RtfInterpreter::ObeyTextWord(const RtfRule& rule, const RtfToken&) {
+void RtfInterpreter::ObeyTextWord(const RtfRule& rule) {
     if (rule.action == RtfAction::Character) {
         Put({&rule.value, 1});
         return;
@@ -254,26 +248,22 @@ void RtfInterpreter::ObeyFormatWord(const RtfRule& rule, const RtfToken& word) {
 void RtfInterpreter::ObeyTableWord(const RtfRule& rule, const RtfToken& word) {
     switch (rule.action) {
     case RtfAction::Font:
-        tableFont = word.number;
-        builder.fonts[tableFont] = {};
+        tables.BeginFont(word.number);
         break;
     case RtfAction::FontCharset:
-        builder.fonts[tableFont].codePage = CodePageOfCharset(word.number);
+        tables.SetFontCharset(word.number);
         break;
     case RtfAction::FontCodePage:
-        builder.fonts[tableFont].codePage = word.number;
+        tables.SetFontCodePage(word.number);
         break;
     case RtfAction::Red:
-        tableColor.red = ColorComponent(word.number);
-        hasTableColor = true;
+        tables.SetRed(word.number);
         break;
     case RtfAction::Green:
-        tableColor.green = ColorComponent(word.number);
-        hasTableColor = true;
+        tables.SetGreen(word.number);
         break;
     case RtfAction::Blue:
-        tableColor.blue = ColorComponent(word.number);
-        hasTableColor = true;
+        tables.SetBlue(word.number);
         break;
     default:
         break;
@@ -314,11 +304,10 @@ void RtfInterpreter::DecodeBytes() {
     if (waitingBytes.empty()) {
         return;
     }
-    const auto font =
-        builder.fonts.find(state.destination == Destination::Fonts ? tableFont : state.format.font);
-    const bool hasOwnPage = font != builder.fonts.end() && font->second.codePage != 0;
+    const bool isName = state.destination == Destination::Fonts;
+    const int fontsPage = tables.CodePageOfFont(isName ? tables.NumberOfFont() : state.format.font);
     std::u32string text;
-    charsets.Decode(waitingBytes, hasOwnPage ? font->second.codePage : documentCodePage, text);
+    charsets.Decode(waitingBytes, fontsPage != 0 ? fontsPage : documentCodePage, text);
     waitingBytes.clear();
     Put(text);
 }
@@ -340,13 +329,13 @@ void RtfInterpreter::TakeUnicode(int number) {
         highSurrogate = unit;
         return;
     }
-    if (state.isListLabel && unit == kSymbolBullet) {
+    if (unit == kSymbolBullet && IsSymbol()) {
         unit = kBullet;
     }
     if (state.destination == Destination::Fonts) {
         // Written so, a ";" is a part of the name.
-        highSurrogate = 0;
-        AddToFontName(unit);
+        Put({});
+        tables.AddToFontName(unit);
     } else {
         Put({&unit, 1});
     }
@@ -358,42 +347,12 @@ void RtfInterpreter::Put(std::u32string_view text) {
         Put({&kReplacementCharacter, 1});
     }
     if (state.destination == Destination::Fonts) {
-        TakeFontName(text);
+        tables.AddFontText(text);
     } else if (state.destination == Destination::Colors) {
-        for (std::ptrdiff_t ends = std::ranges::count(text, U';'); ends > 0; --ends) {
-            EndColor();
-        }
+        tables.AddColorText(text);
     } else if (IsShown()) {
         builder.Append(text, state.format);
     }
-}
-
-void RtfInterpreter::TakeFontName(std::u32string_view text) {
-    for (const char32_t character : text) {
-        if (character == U';') {
-            EndFontName();
-        } else {
-            AddToFontName(character);
-        }
-    }
-}
-
-void RtfInterpreter::AddToFontName(char32_t character) {
-    if (fontName.size() < kLongestFontName) {
-        fontName += character;
-    }
-}
-
-void RtfInterpreter::EndFontName() {
-    builder.fonts[tableFont].name = Utf8Of(fontName);
-    fontName.clear();
-}
-
-// An entry without any component is the reader's own colour.
-void RtfInterpreter::EndColor() {
-    builder.colors.push_back(hasTableColor ? std::optional(tableColor) : std::nullopt);
-    tableColor = {};
-    hasTableColor = false;
 }
 
 } // namespace orvel

@@ -6,8 +6,10 @@
 #include "report/RtfCharset.h"
 #include "report/RtfDocumentBuilder.h"
 #include "report/RtfLexer.h"
+#include "report/RtfTables.h"
 #include "report/RtfWords.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -52,7 +54,7 @@ private:
     void Obey(const RtfToken& token);
     void ObeyWord(const RtfToken& word);
     void ObeyDocumentWord(const RtfRule& rule, const RtfToken& word);
-    void ObeyTextWord(const RtfRule& rule, const RtfToken& word);
+    void ObeyTextWord(const RtfRule& rule);
     void ObeyFormatWord(const RtfRule& rule, const RtfToken& word);
     void ObeyTableWord(const RtfRule& rule, const RtfToken& word);
     void ObeySymbol(char symbol);
@@ -63,15 +65,15 @@ private:
     void TakeUnicode(int number);
     void Put(std::u32string_view text);
     [[nodiscard]] bool IsShown() const { return state.destination == Destination::Shown && !state.isHidden; }
-
-    void TakeFontName(std::u32string_view text);
-    void AddToFontName(char32_t character);
-    void EndFontName();
-    void EndColor();
+    // Whether characters of the private area are those of a symbol font.
+    [[nodiscard]] bool IsSymbol() const {
+        return state.isListLabel || tables.CodePageOfFont(state.format.font) == kSymbolPage;
+    }
 
     RtfLexer lexer;
     RtfCharsets charsets;
-    RtfDocumentBuilder builder;
+    RtfTables tables;
+    RtfDocumentBuilder builder{tables};
 
     State state;
     std::vector<Saved> saved;
@@ -84,10 +86,6 @@ private:
 
     int documentCodePage = kWindows1252;
     int defaultFont = 0;
-    int tableFont = 0;
-    std::u32string fontName;
-    Color tableColor;
-    bool hasTableColor = false;
 };
 
 } // namespace orvel

@@ -42,10 +42,8 @@ RtfToken RtfLexer::Next() {
     rest.remove_prefix(begin);
     const char first = rest.front();
     if (first == '{' || first == '}') {
-        const RtfToken group{first == '{' ? RtfToken::Kind::OpenGroup : RtfToken::Kind::CloseGroup,
-                             rest.substr(0, 1)};
         rest.remove_prefix(1);
-        return group;
+        return {.kind = first == '{' ? RtfToken::Kind::OpenGroup : RtfToken::Kind::CloseGroup};
     }
     return first == '\\' ? TakeControl() : TakeText();
 }
@@ -66,7 +64,6 @@ RtfToken RtfLexer::TakeControl() {
         return TakeWord();
     }
     const char symbol = rest.front();
-    const std::string_view itself = rest.substr(0, 1);
     rest.remove_prefix(1);
     switch (symbol) {
     case '\'':
@@ -74,18 +71,18 @@ RtfToken RtfLexer::TakeControl() {
     case '\\':
     case '{':
     case '}':
-        return {.kind = RtfToken::Kind::Byte, .text = itself, .byte = symbol};
+        return {.kind = RtfToken::Kind::Byte, .byte = symbol};
     case '\r':
     case '\n':
         return {.kind = RtfToken::Kind::Word, .text = "par"};
     default:
-        return {.kind = RtfToken::Kind::Symbol, .text = itself, .byte = symbol};
+        return {.kind = RtfToken::Kind::Symbol, .byte = symbol};
     }
 }
 
 RtfToken RtfLexer::TakeWord() {
-    const auto end = std::ranges::find_if_not(rest, IsLetter);
-    RtfToken word{RtfToken::Kind::Word, {rest.begin(), end}};
+    const auto letters = std::ranges::find_if_not(rest, IsLetter) - rest.begin();
+    RtfToken word{RtfToken::Kind::Word, rest.substr(0, static_cast<std::size_t>(letters))};
     rest.remove_prefix(word.text.size());
     TakeNumber(word);
     if (rest.starts_with(' ')) {
@@ -112,15 +109,16 @@ void RtfLexer::TakeNumber(RtfToken& word) {
 }
 
 RtfToken RtfLexer::TakeByte() {
-    const int high = rest.empty() ? -1 : HexDigit(rest[0]);
-    const int low = rest.size() < 2 ? -1 : HexDigit(rest[1]);
-    if (high < 0 || low < 0) {
-        return {.kind = RtfToken::Kind::Symbol, .text = "'", .byte = '\''};
+    const std::string_view digits = rest.substr(0, 2);
+    if (!std::ranges::all_of(digits, [](char each) { return HexDigit(each) >= 0; })) {
+        return {.kind = RtfToken::Kind::Symbol, .byte = '\''};
     }
-    const RtfToken token{
-        .kind = RtfToken::Kind::Byte, .text = rest.substr(0, 2), .byte = static_cast<char>(high * 16 + low)};
-    rest.remove_prefix(2);
-    return token;
+    rest.remove_prefix(digits.size());
+    if (digits.size() < 2) {
+        return {};
+    }
+    const int value = HexDigit(digits[0]) * 16 + HexDigit(digits[1]);
+    return {.kind = RtfToken::Kind::Byte, .byte = static_cast<char>(value)};
 }
 
 } // namespace orvel

@@ -9,19 +9,19 @@ namespace orvel {
 
 // A piece of rich text's syntax.
 //
-//     group   = "{" ... "}"
-//     word    = "\\" letters [ ["-"] digits ] [ one blank, which belongs to it ]
-//     byte    = "\\'" two hexadecimal digits
-//     symbol  = "\\" any other byte; one of "\\", "{", "}" stands for itself; before a line end it is the
-//     word "par" text    = all other bytes; CR, LF and NUL count for nothing
+//     group  = "{" ... "}"
+//     word   = "\" letters [ [ "-" ] digits ] [ a blank, which belongs to it ]
+//     byte   = "\'" two hexadecimal digits, or "\\", "\{", "\}", which stand for the second character
+//     symbol = "\" any other byte; with a line end it is the word "par"
+//     text   = all other bytes; CR, LF and NUL count for nothing
 struct RtfToken {
     enum class Kind { End, OpenGroup, CloseGroup, Word, Symbol, Byte, Text };
 
     Kind kind = Kind::End;
-    std::string_view text;  // of a word its letters, else the bytes themselves (of a Byte exactly one)
-    bool hasNumber = false; // of a word
-    int number = 0;         // cut to what an int holds
-    char byte = 0;          // of a Byte or Symbol
+    std::string_view text{}; // of a Word its letters, of a Text its bytes
+    bool hasNumber = false;  // of a Word
+    int number = 0;          // of a Word; cut to what an int holds
+    char byte = 0;           // of a Byte or Symbol
 };
 
 // Cuts the bytes of a rich-text file into tokens. Raw bytes behind the word "bin" are passed over. Takes any

@@ -164,7 +164,7 @@ const RtfRule* FindRtfRule(std::string_view word) {
 }
 
 bool IsKnownBehindStar(std::string_view word) {
-    return word == "ud" || word == "fldrslt" || word == "shppict";
+    return word == "ud" || word == "fldrslt" || word == "shppict" || word == "nesttableprops";
 }
 
 } // namespace orvel

@@ -46,7 +46,7 @@ enum class RtfAction {
 };
 
 struct RtfRule {
-    RtfAction action;
+    RtfAction action = RtfAction::SkipGroup;
     char32_t value = 0;
 };
 

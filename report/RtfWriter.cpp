@@ -58,10 +58,11 @@ void AppendCharacter(std::string& rtf, char32_t character) {
 
 std::string FontEntry(int number, const std::string& name) {
     std::string entry = "{\\f" + std::to_string(number);
-    entry += name == kMonospaced ? "\\fmodern\\fcharset0\\fprq1 " : "\\fnil\\fcharset0 ";
+    entry += name == kMonospaced ? R"(\fmodern\fcharset0\fprq1 )" : R"(\fnil\fcharset0 )";
     for (const char32_t character : UnicodeOf(name)) {
-        if (character == U';') {
-            AppendUnicode(entry, character); // bare, it ends the name
+        // Bare, a ";" ends the name; words for tabs and line breaks would be no part of it.
+        if (character == U';' || character == kLineBreak || character < U' ') {
+            AppendUnicode(entry, character);
         } else {
             AppendCharacter(entry, character);
         }
@@ -142,7 +143,7 @@ std::string_view AlignmentWords(Alignment alignment) {
 
 std::string WriteRtf(const RichDocument& document) {
     const Tables tables(document);
-    std::string rtf = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1" + tables.Text() + "\r\n";
+    std::string rtf = R"({\rtf1\ansi\ansicpg1252\deff0\uc1)" + tables.Text() + "\r\n";
     const CharacterFormat* format = nullptr;
     Alignment alignment = Alignment::Left;
     for (const Paragraph& paragraph : document.paragraphs) {

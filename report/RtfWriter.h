@@ -9,7 +9,7 @@
 namespace orvel {
 
 // A document as rich text that word processors open unchanged; pure ASCII, lines ended by CR LF. Reading it
-// gives the same document.
+// gives the same document, but for names of fonts that are longer than 63 characters.
 [[nodiscard]] std::string WriteRtf(const RichDocument& document);
 
 } // namespace orvel

@@ -2,36 +2,35 @@
 // SPDX-License-Identifier: MIT
 #include "tests/centerpivot/ExactPivot.h"
 #include "tests/centerpivot/PivotFixture.h"
+#include "tests/support/RandomEntries.h"
 
 #include <array>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <map>
-#include <random>
 #include <sstream>
 #include <tuple>
 
 namespace orvel {
 namespace {
 
+using testing::Bits;
+using testing::DescriptionOf;
 using testing::EvaluateExactly;
 using testing::ExactApplicationRate;
 using testing::ExactError;
 using testing::ExactResults;
 using testing::ExactRow;
 using testing::GenerationErrorMessage;
-using testing::ReadDecimal;
-using testing::RoundToDouble;
-using testing::RoundToSingle;
 
 constexpr int kTests = 10'000;
 
-// Random tests as a user might enter them, and a few as no user should. The engine's numbers are the same
-// everywhere; what the library's distributions make of them is not, so there are none here.
-class TestMaker {
+// Random tests as a user might enter them, and a few as no user should.
+class TestMaker : public testing::RandomEntries {
 public:
+    TestMaker() : RandomEntries(19780815) {}
+
     CenterPivotTest Make() {
         CenterPivotTest test;
         test.GuageDiameter = Rarely(150) ? Faulty() : Decimal(40, 200, 10);
@@ -50,32 +49,7 @@ public:
         return test;
     }
 
-    bool Rarely(std::uint64_t oneIn) { return Below(oneIn) == 0; }
-
 private:
-    std::uint64_t Below(std::uint64_t bound) { return engine() % bound; }
-
-    std::uint64_t From(std::uint64_t first, std::uint64_t last) { return first + Below(last - first + 1); }
-
-    // first / unit to last / unit, with as many decimals as the unit has zeros, or without any.
-    std::string Decimal(std::uint64_t first, std::uint64_t last, std::uint64_t unit) {
-        const std::uint64_t number = From(first, last);
-        std::string text = std::to_string(number / unit);
-        if (unit > 1 && !Rarely(3)) {
-            text += "." + std::to_string(unit + number % unit).substr(1);
-        }
-        return Rarely(8) ? "  " + text + " " : text;
-    }
-
-    std::string Faulty() {
-        constexpr std::array kFaulty = {"0", "0.0", "", "abc", "1.2.3", ".", "-12.5", "1e3", "12 3"};
-        return kFaulty[Below(kFaulty.size())];
-    }
-
-    std::string Number(std::uint64_t first, std::uint64_t last, std::uint64_t unit) {
-        return Rarely(40) ? Faulty() : Rarely(12) ? std::string{} : Decimal(first, last, unit);
-    }
-
     static float Tenths(std::uint64_t number) { return static_cast<float>(number) / 10.0F; }
 
     float Volume() {
@@ -127,21 +101,9 @@ private:
         }
     }
 
-    std::mt19937_64 engine{19780815};
     std::uint64_t spread = 0;
     std::uint64_t placing = 0;
 };
-
-// Rational numbers know no minus zero.
-std::uint32_t Bits(float value) {
-    return value == 0 ? 0 : std::bit_cast<std::uint32_t>(value);
-}
-
-const char* DescriptionOf(int number) {
-    static const std::map<int, const char*> kDescriptions = {
-        {6, "Overflow"}, {9, "Subscript out of range"}, {11, "Division by zero"}, {13, "Type mismatch"}};
-    return kDescriptions.at(number);
-}
 
 // What differs, one line each; empty when all is equal to the last bit.
 std::string Differences(const CenterPivotResults& actual, const ExactResults& exact) {
@@ -280,44 +242,6 @@ TEST_F(CenterPivotExactTest, TheTravelSpeedIsKeptInDoublePrecision) {
             EXPECT_GT(Compare(test, {}).calculatedFlowRate, 0.0F);
             ResetCenterPivot();
         }
-    }
-}
-
-TEST(ExactPivot, RoundsToTheNearestAndTiesToEven) {
-    const mpq_class two24(16777216);
-    EXPECT_EQ(RoundToSingle(two24 + 1), 16777216.0F);
-    EXPECT_EQ(RoundToSingle(two24 + 3), 16777220.0F);
-    EXPECT_EQ(RoundToSingle(-(two24 + 3)), -16777220.0F);
-    EXPECT_EQ(RoundToSingle(two24 + 1 + mpq_class(1, 1'000'000'000)), 16777218.0F);
-    EXPECT_EQ(RoundToSingle(two24 - 1), 16777215.0F);
-    EXPECT_EQ(RoundToSingle(mpq_class(1, 3)), 1.0F / 3.0F);
-    EXPECT_EQ(RoundToSingle(ReadDecimal("0.1")), 0.1F);
-    EXPECT_EQ(RoundToDouble(ReadDecimal("0.1")), 0.1);
-    EXPECT_EQ(RoundToDouble(ReadDecimal("9007199254740993")), 9007199254740992.0);
-    EXPECT_EQ(RoundToSingle(0), 0.0F);
-}
-
-TEST(ExactPivot, RoundsAtTheEndsOfTheRange) {
-    constexpr float kSmallest = std::numeric_limits<float>::denorm_min();
-    constexpr float kLargest = std::numeric_limits<float>::max();
-    const mpq_class smallest(kSmallest);
-    EXPECT_EQ(RoundToSingle(smallest / 2), 0.0F);
-    EXPECT_EQ(RoundToSingle(smallest * 3 / 4), kSmallest);
-    EXPECT_EQ(RoundToSingle(smallest * 3 / 2), 2 * kSmallest);
-    EXPECT_EQ(RoundToSingle(mpq_class(kLargest)), kLargest);
-    EXPECT_THROW(std::ignore = RoundToSingle(ReadDecimal("3.4028236e38")), ExactError);
-    EXPECT_EQ(RoundToDouble(mpq_class(5e-324)), 5e-324);
-    EXPECT_THROW(std::ignore = RoundToDouble(ReadDecimal("1.8e308")), ExactError);
-}
-
-TEST(ExactPivot, ReadsDecimals) {
-    EXPECT_EQ(ReadDecimal("  12.50 "), mpq_class(25, 2));
-    EXPECT_EQ(ReadDecimal("-.5"), mpq_class(-1, 2));
-    EXPECT_EQ(ReadDecimal("+5."), mpq_class(5));
-    EXPECT_EQ(ReadDecimal("1e3"), mpq_class(1000));
-    EXPECT_EQ(ReadDecimal("25E-1"), mpq_class(5, 2));
-    for (const char* text : {"", ".", "abc", "1.2.3", "12 3", "-"}) {
-        EXPECT_THROW(std::ignore = ReadDecimal(text), ExactError) << text;
     }
 }
 

@@ -166,6 +166,13 @@ TEST_F(CenterPivotListingTest, RoundsToWholeNumbersHalvesAway) {
                                  "      04                  -3\r\n"));
 }
 
+TEST_F(CenterPivotListingTest, WidensALineForANumberThatIsWiderThanItsColumn) {
+    SetCups({5, 123456792.0F, 1e10F}, {1e10F, 1234567936.0F, 30});
+    EXPECT_TRUE(SameText(Cups(), "      01 10000000000         5\r\n"
+                                 "      02 1234568000 123456800\r\n"
+                                 "      03        30 10000000000\r\n"));
+}
+
 TEST_F(CenterPivotListingTest, RaisesOverflowForANumberThatIsNone) {
     for (const float value :
          {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {

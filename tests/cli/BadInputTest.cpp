@@ -50,32 +50,6 @@ TEST_F(BadInput, AFileThatCannotBeReadIsNamedWithTheReason) {
                   (folder / "no.json").native() + ": cannot open: No such file or directory");
 }
 
-TEST_F(BadInput, WrongCallsAreOneLineWithStatusTwo) {
-    for (const std::vector<std::string>& arguments :
-         {std::vector<std::string>{},
-          {"explain"},
-          {"results"},
-          {"results", kPivot, "--colour"},
-          {"results", kPivot, "--kind", "CenterPivot"},
-          {"report", kPivot, "--now", "yesterday"},
-          {"report", kPivot, "--json", "--format", "text"},
-          {"report", kPivot, "--format", "pdf"},
-          {"report", kPivot, "--output-dir", folder / "missing"},
-          {"report", kPivot, "--output-dir", folder.Path(), "-o", folder / "x"},
-          {"report", kPivot, "--program-dir", folder / "missing"},
-          {"check", kPivot, kPivot},
-          {"listing", kPivot, kPivot},
-          {"dump", kPivot, kPivot},
-          {"build", kPivot},
-          {"results", folder / "a.txt"}}) {
-        const RunResult run = RunProgram(arguments);
-        EXPECT_EQ(run.status, 2) << run.err;
-        EXPECT_EQ(run.out, "");
-        EXPECT_TRUE(run.err.starts_with("orvel-cli: ")) << run.err;
-        EXPECT_EQ(std::ranges::count(run.err, '\n'), 1) << run.err;
-    }
-}
-
 TEST_F(BadInput, AnEpochThatIsNoNumberIsAWrongCall) {
     const RunResult run =
         RunProgram(Call{.arguments = {"report", kPivot}, .environment = {{"SOURCE_DATE_EPOCH", "soon"}}});
@@ -167,10 +141,13 @@ TEST_F(BadInput, JsonThatIsWrongIsNamedAndNothingIsWritten) {
         const char* complaint;
     };
     for (const Case& each :
-         {Case{"", "syntax error"}, Case{"{", "syntax error"}, Case{"[]", "must be an object"},
+         {Case{"", "syntax error"}, Case{"{", "syntax error"}, Case{"[]", "a test must be an object"},
           Case{R"({"Client": 1})", R"("Client" is no field of the record)"},
-          Case{R"({"ClientName": "a", "ClientName": "b"})", R"("ClientName" is named twice)"},
-          Case{R"({"MinIntake": 1e39})", "number overflow"}}) {
+          Case{R"({"ClientName": "a", "ClientName": "b"})",
+               R"(error at line 1, column 32: "ClientName" is named twice)"},
+          Case{R"({"MinIntake": 1e39})",
+               R"(error at line 1, column 18: "MinIntake" is a number that no Single holds: 1e39)"},
+          Case{R"({"a\u0000b\n": 1})", R"("a\u0000b\n" is no field of the record)"}}) {
         const RunResult run =
             RunProgram(Call{.arguments = {"build", "-", "-o", folder / "x.cpd"}, .input = each.json});
         EXPECT_EQ(run.status, 3) << each.json;
@@ -179,6 +156,31 @@ TEST_F(BadInput, JsonThatIsWrongIsNamedAndNothingIsWritten) {
         EXPECT_EQ(std::ranges::count(run.err, '\n'), 1) << run.err;
     }
     EXPECT_TRUE(folder.Names().empty());
+}
+
+TEST_F(BadInput, JsonNestedAHundredThousandDeepIsRefused) {
+    std::string objects;
+    for (int i = 0; i < 100000; ++i) {
+        objects += R"({"a":)";
+    }
+    for (const std::string& json : {std::string(100000, '['), objects}) {
+        const RunResult run =
+            RunProgram(Call{.arguments = {"build", "-", "-o", folder / "x.cpd"}, .input = json});
+        EXPECT_EQ(run.status, 3);
+        EXPECT_TRUE(run.err.ends_with(": more than 64 objects and arrays in one another\n")) << run.err;
+    }
+    EXPECT_TRUE(folder.Names().empty());
+}
+
+TEST_F(BadInput, NamesWithControlCharactersOrWrongBytesStayOnOneLine) {
+    const std::string name = folder / "a\nb\r\t\x1B[31m\x7F\xC2\x9B\xE2\x80\xA8\xFF.cpd";
+    ExpectOneLine(RunProgram({"check", name}), 3,
+                  (folder / R"(a\nb\r\t\u001b[31m\u007f\u009b\u2028)").native() +
+                      "\xEF\xBF\xBD.cpd: cannot open: No such file or directory");
+    ExpectOneLine(RunProgram({"check", kPivot, "--program-dir", "no\nfolder\xFF"}), 2,
+                  "--program-dir: no such folder: no\\nfolder\xEF\xBF\xBD");
+    ExpectOneLine(RunProgram({"report", "a\n.cpd", "b/a\n.cpd", "--output-dir", folder.Path()}), 2,
+                  "b/a\\n.cpd: another file would be written to " + folder.Path().native() + "/a\\n.txt too");
 }
 
 TEST_F(BadInput, AnOutputThatCannotBeWrittenIsNamedWithTheReason) {
@@ -195,6 +197,14 @@ TEST_F(BadInput, AFullDiskBehindStandardOutputIsAnError) {
     const RunResult run = RunProgram(Call{.arguments = {"report", kPivot}, .outputFile = "/dev/full"});
     EXPECT_EQ(run.status, 3);
     EXPECT_EQ(run.err, "orvel-cli: standard output: cannot write: No space left on device\n");
+}
+
+TEST_F(BadInput, HelpAndVersionThatCannotBePrintedAreAnError) {
+    for (const char* request : {"--help", "--version"}) {
+        const RunResult run = RunProgram(Call{.arguments = {request}, .outputFile = "/dev/full"});
+        EXPECT_EQ(run.status, 3) << request;
+        EXPECT_EQ(run.err, "orvel-cli: standard output: cannot write: No space left on device\n");
+    }
 }
 
 TEST_F(BadInput, AFileThatCannotGrowLeavesTheOldOneAndNoLitter) {

@@ -125,6 +125,12 @@ TEST_F(RecordJson, SinglesThatAreNotFiniteAreTheirBits) {
     EXPECT_EQ(DumpTest(built)["MinIntake"], "0x7fa00001");
 }
 
+TEST_F(RecordJson, SinglesTooSmallToHoldAreZeroAndKeepTheirSign) {
+    const auto test = BuiltFrom<CenterPivotTest>(R"({"MinIntake": 1e-60, "MaxIntake": -0})");
+    EXPECT_EQ(JsonLine(DumpTest(test)["MinIntake"]), "0\n");
+    EXPECT_EQ(JsonLine(DumpTest(test)["MaxIntake"]), "-0.0\n");
+}
+
 TEST_F(RecordJson, RawHoldsOnlyWhatIsNotAllZero) {
     CenterPivotTest test;
     EXPECT_FALSE(DumpTest(test).contains("Raw"));
@@ -168,6 +174,9 @@ TEST_F(RecordJson, AWrongMemberIsNamed) {
         Case{R"({"ClientName": null})", R"("ClientName" must be a text)"},
         Case{R"({"DateofTest": "1234567890123456"})",
              R"("DateofTest" has 16 characters, but its field holds 15)"},
+        Case{R"({"DateofTest": "ααααααααααααααα€"})",
+             R"("DateofTest" has 16 characters, but its field holds 15)"},
+        Case{R"({"a\u0000\n": "x"})", R"("a\u0000\n" is no field of the record)"},
         Case{R"({"ClientName": "a𝄞"})", R"("ClientName" has a character that the code page lacks: 𝄞)"},
         Case{R"({"HasEndGun": "yes"})", R"("HasEndGun" must be true, false or a 16-bit number)"},
         Case{R"({"HasEndGun": 32768})", R"("HasEndGun" must be true, false or a 16-bit number)"},

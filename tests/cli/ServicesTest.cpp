@@ -53,10 +53,11 @@ TEST_F(CommandLineServices, DateAndTimeAreReadInOneFormOnly) {
     EXPECT_EQ(moment->hour, 23);
     EXPECT_EQ(moment->minute, 59);
     EXPECT_EQ(moment->second, 58);
+    EXPECT_TRUE(ParseDateTime("0001-01-01 00:00:00"));
     for (const char* text :
          {"", "2023-02-29 00:00:00", "2024-13-01 00:00:00", "2024-01-00 00:00:00", "2024-01-01 24:00:00",
           "2024-01-01 00:60:00", "2024-01-01 00:00:60", "2024-01-01T00:00:00", "2024-01-01 00:00:0",
-          "2024-01-01 00:00:000", "2024-1-01 000:00:00", "+024-01-01 00:00:00"}) {
+          "2024-01-01 00:00:000", "0000-01-01 00:00:00", "2024-1-01 000:00:00", "+024-01-01 00:00:00"}) {
         EXPECT_FALSE(ParseDateTime(text)) << text;
     }
 }
@@ -78,10 +79,15 @@ TEST_F(CommandLineServices, ClockTakesSourceDateEpochInUtc) {
 }
 
 TEST_F(CommandLineServices, ClockRefusesAnEpochThatIsNoNumberOfSeconds) {
-    for (const char* epoch : {"", "soon", "12x", "-1", "253402300800", "99999999999999999999"}) {
+    for (const char* epoch : {"soon", " ", "12x", "-1", "253402300800", "99999999999999999999"}) {
         ::setenv("SOURCE_DATE_EPOCH", epoch, 1);
         EXPECT_THROW((void)CommandClock(std::nullopt).Now(), CommandError) << epoch;
     }
+}
+
+TEST_F(CommandLineServices, ClockTakesAnEmptyEpochForNone) {
+    ::setenv("SOURCE_DATE_EPOCH", "", 1);
+    EXPECT_GE(CommandClock(std::nullopt).Now().year, 2026);
 }
 
 TEST_F(CommandLineServices, ClockElseTellsTheLocalTime) {

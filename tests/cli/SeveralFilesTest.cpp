@@ -105,6 +105,14 @@ TEST_F(SeveralFiles, ReportsAreNamedAfterTheirTests) {
     EXPECT_EQ(cli::ParseJson(Contents(Out("pivot-1978.json")))["ok"], true);
 }
 
+TEST_F(SeveralFiles, ANameThatIsNothingButAnExtensionStaysWhole) {
+    std::filesystem::copy_file(kPivot, folder / ".cpd");
+    std::filesystem::copy_file(kPivot, folder / "a.b.cpd");
+    EXPECT_EQ(RunProgram({"report", "--output-dir", Out(""), folder / ".cpd", folder / "a.b.cpd"}).status, 0);
+    EXPECT_TRUE(std::filesystem::exists(Out(".cpd.txt")));
+    EXPECT_TRUE(std::filesystem::exists(Out("a.b.txt")));
+}
+
 TEST_F(SeveralFiles, ExportsAreNamedAfterTheirTests) {
     EXPECT_EQ(RunProgram({"export", "--output-dir", Out(""), folder / "good.cpd", kPivot}).status, 0);
     EXPECT_EQ(Contents(Out("good.txt")), Contents(TestData("pivot-1978-export.txt")));

@@ -18,6 +18,11 @@ std::string Listed(const CenterPivotTest& test, const ListingLabel& label) {
     return ListingFields(AsBytes(test), kCenterPivotFields, std::array{label});
 }
 
+TEST(Listing, ARowHasItsColumnsOnTheRightAndCutsNothing) {
+    EXPECT_EQ(ListingRow({"01", "185", "141"}), "      01       185       141\r\n");
+    EXPECT_EQ(ListingRow({"01", "10000000000", ""}), "      01 10000000000          \r\n");
+}
+
 TEST(Listing, CentresItsTitleAboveARule) {
     EXPECT_TRUE(SameText(ListingTitle("Data of a Test"), std::string(33, ' ') + "Data of a Test" +
                                                              std::string(33, ' ') + "\r\n" +

@@ -399,6 +399,37 @@ TEST_P(SafeFileTest, WritesAPipeStraight) {
     EXPECT_EQ(folder.Names(), Names{"file"});
 }
 
+TEST_P(SafeFileTest, WritesAPipeWithoutANameStraight) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    fs::create_symlink("/dev/fd/" + std::to_string(ends[1]), folder / "link");
+    const std::string number = std::to_string(ends[1]);
+    for (const fs::path& path :
+         {fs::path("/dev/fd/" + number), fs::path("/proc/self/fd/" + number), folder / "link"}) {
+        Replace(path, "through the pipe");
+        std::array<char, 64> buffer{};
+        EXPECT_EQ(::read(ends[0], buffer.data(), buffer.size()), 16);
+        EXPECT_STREQ(buffer.data(), "through the pipe");
+    }
+    ::close(ends[0]);
+    ::close(ends[1]);
+    EXPECT_EQ(folder.Names(), Names{"link"});
+}
+
+TEST_P(SafeFileTest, OverwritesAFileThatHasLostItsName) {
+    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT, 0600);
+    ASSERT_NE(descriptor, -1);
+    fs::remove(file);
+    for (const std::string_view content : {"a longer content", "short"}) {
+        Replace("/dev/fd/" + std::to_string(descriptor), content);
+        std::array<char, 64> buffer{};
+        EXPECT_EQ(::pread(descriptor, buffer.data(), buffer.size(), 0), std::ssize(content));
+        EXPECT_EQ(buffer.data(), content);
+    }
+    ::close(descriptor);
+    EXPECT_EQ(folder.Names(), Names{});
+}
+
 TEST_P(SafeFileTest, RefusesAFolderAndASocket) {
     fs::create_directory(folder / "folder");
     fs::create_directory_symlink("folder", folder / "link");

@@ -106,8 +106,22 @@ TEST(Text, LeavesAnyOtherLetterUnpaddedButTrimmedAndCut) {
     }
 }
 
+TEST(Text, ARightColumnWidensRatherThanCut) {
+    EXPECT_EQ(RightColumn("12", 5), "   12");
+    EXPECT_EQ(RightColumn("1234", 5), " 1234");
+    EXPECT_EQ(RightColumn("12345", 5), " 12345");
+    EXPECT_EQ(RightColumn("1234567", 5), " 1234567");
+    EXPECT_EQ(RightColumn("", 3), "   ");
+}
+
+TEST(Text, BooleansAreWords) {
+    EXPECT_EQ(BooleanWord(true), "True");
+    EXPECT_EQ(BooleanWord(false), "False");
+}
+
 TEST(Text, RuleLineIsEightyEqualSignsAndALineEnd) {
     EXPECT_EQ(RuleLine(), std::string(80, '=') + "\r\n");
+    EXPECT_EQ(Rule(), std::string(80, '='));
 }
 
 TEST(Text, LineEndsAreCarriageReturnAndLineFeed) {

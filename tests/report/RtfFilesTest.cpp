@@ -8,8 +8,9 @@
 #include <array>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <map>
+#include <sstream>
 #include <string>
+#include <string_view>
 
 // Rich text as word processors write it, and the text they see in it.
 namespace orvel {
@@ -107,11 +108,50 @@ TEST_F(RtfFiles, BoldItalicAndUnderlineAreSeen) {
     EXPECT_EQ(FormatOf(document, U"Courier run").font, "Liberation Mono");
 }
 
-TEST_F(RtfFiles, ColoursAreSeen) {
+TEST_F(RtfFiles, CellsAreSeparatedByTabsAndRowsByLineEnds) {
+    EXPECT_EQ(Utf8Of(PlainText(Read("h5_table"))), "Before.\n"
+                                                   "Name\tValue\n"
+                                                   "alpha\t1.5\n"
+                                                   "beta\t22.75\n"
+                                                   "merged cell\n"
+                                                   "Between.\n"
+                                                   // The cell on the left holds a table of one row.
+                                                   "outer\n"
+                                                   "in1\tin2\n"
+                                                   "\tright\t\n"
+                                                   "After.\n");
+}
+
+TEST_F(RtfFiles, LabelsOfListsStandBeforeTheirTabs) {
+    EXPECT_EQ(Utf8Of(PlainText(Read("h4_lists"))),
+              "\u2022\tapple\n\u2022\tpear\n\u2022\tconference\n\u2022\twilliams\n\u2022\tplum\n"
+              " 1.\tone\n 2.\ttwo\n a.\ttwo a\n b.\ttwo b\n 3.\tthree\n"
+              "After the lists.\n");
+}
+
+TEST_F(RtfFiles, FontsAndSizesAreSeen) {
+    const RichDocument document = Read("h1_headings");
+    const auto font = [&document](std::u32string_view text) {
+        const CharacterFormat format = FormatOf(document, text);
+        return format.font + " " + std::to_string(format.halfPoints) + (format.isBold ? " bold" : "");
+    };
+    EXPECT_EQ(font(U"Main title"), "Liberation Serif 48 bold");
+    EXPECT_EQ(font(U"Section A"), "Liberation Serif 36 bold");
+    EXPECT_EQ(font(U"Sub A.1"), "Liberation Serif 28 bold");
+    EXPECT_EQ(font(U"with a line\u2028break inside."), "Liberation Serif 24");
+}
+
+TEST_F(RtfFiles, ColoursAndAlignmentsAreSeen) {
     const RichDocument document = Read("h3_colours");
     EXPECT_EQ(FormatOf(document, U"red").color, (Color{255, 0, 0}));
     EXPECT_EQ(FormatOf(document, U"blue").color, (Color{0, 0, 255}));
     EXPECT_EQ(FormatOf(document, U"green").color, (Color{0, 128, 0}));
+    EXPECT_EQ(FormatOf(document, U"white on black").color, (Color{255, 255, 255}));
+    EXPECT_EQ(FormatOf(document, U"automatic").color, std::nullopt);
+    EXPECT_EQ(document.paragraphs.at(0).alignment, Alignment::Left);
+    EXPECT_EQ(document.paragraphs.at(1).alignment, Alignment::Center);
+    EXPECT_EQ(document.paragraphs.at(2).alignment, Alignment::Right);
+    EXPECT_EQ(document.paragraphs.at(3).alignment, Alignment::Left);
 }
 
 } // namespace

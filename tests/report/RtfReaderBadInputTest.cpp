@@ -6,10 +6,12 @@
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Whatever the bytes, the reader gives what can be shown and never fails.
@@ -32,43 +34,70 @@ protected:
         return samples;
     }
 
-    // What the document model promises of its runs.
-    static void ExpectSound(const RichDocument& document) {
-        ASSERT_FALSE(document.paragraphs.empty());
+    // Whether a document is what the model promises.
+    static bool IsSound(const RichDocument& document) {
+        const auto isSound = [](char32_t each) {
+            return (each >= U' ' || each == U'\t') && each <= 0x10FFFF && (each < 0xD800 || each > 0xDFFF);
+        };
         for (const Paragraph& paragraph : document.paragraphs) {
             const TextRun* last = nullptr;
             for (const TextRun& run : paragraph.runs) {
-                ASSERT_FALSE(run.text.empty());
-                ASSERT_TRUE(last == nullptr || last->format != run.format);
-                ASSERT_GT(run.format.halfPoints, 0);
-                for (const char32_t character : run.text) {
-                    ASSERT_TRUE(character >= U' ' || character == U'\t');
-                    ASSERT_TRUE(character <= 0x10FFFF && (character < 0xD800 || character > 0xDFFF));
+                const bool isNew = last == nullptr || last->format != run.format;
+                if (!isNew || run.text.empty() || run.format.halfPoints <= 0 ||
+                    !std::ranges::all_of(run.text, isSound)) {
+                    return false;
                 }
                 last = &run;
             }
         }
+        return !document.paragraphs.empty();
+    }
+
+    // Whether the first bytes of a file give the beginning of its text. The last two characters may differ: a
+    // cut word can be another word, a half character is shown as none, a row that does not end keeps its tab.
+    static bool IsBeginning(const RichDocument& cut, std::u32string_view whole) {
+        const std::u32string text = PlainText(cut);
+        return whole.starts_with(
+            std::u32string_view(text).substr(0, text.size() - std::min<std::size_t>(2, text.size())));
     }
 };
 
 TEST_F(RtfReaderBadInput, AFileCutOffAnywhereShowsWhatIsThere) {
     const std::string rtf = "{\\rtf1\\ansi{\\fonttbl{\\f0 Arial;}}one{\\b two}\\'e9\\u8364?\\par three}";
-    const std::string whole = Text(rtf);
-    EXPECT_EQ(whole, "onetwo\u00E9\u20AC\nthree");
-    for (std::size_t length = 5; length <= rtf.size(); ++length) {
-        const std::string text = Text(rtf.substr(0, length));
-        // The number of a character that was cut makes another character of it.
-        const std::string common = text.substr(0, std::min(text.size(), std::string("onetwo").size()));
-        EXPECT_EQ(whole.substr(0, common.size()), common) << length;
+    const std::vector<std::pair<std::string, std::string>> ends = {
+        {"", ""},
+        {"o", "o"},
+        {"two", "onetwo"},
+        {"two}\\", "onetwo"},
+        {"two}\\'", "onetwo"},
+        {"two}\\'e", "onetwo"},
+        {"two}\\'e9", "onetwo\u00E9"},
+        {"two}\\'e9\\u", "onetwo\u00E9"},
+        {"u8364", "onetwo\u00E9\u20AC"},
+        {"u8364?\\pa", "onetwo\u00E9\u20AC"},
+        {"u8364?\\par", "onetwo\u00E9\u20AC\n"},
+        {"thr", "onetwo\u00E9\u20AC\nthr"},
+        {"three}", "onetwo\u00E9\u20AC\nthree"},
+    };
+    for (const auto& [end, text] : ends) {
+        const std::size_t place = rtf.find(end, rtf.find("one"));
+        ASSERT_NE(place, std::string::npos) << end;
+        EXPECT_EQ(Text(rtf.substr(0, place + end.size())), text) << end;
     }
-    EXPECT_EQ(Text(rtf.substr(0, rtf.size() - 3)), "onetwo\u00E9\u20AC\nthr");
+    EXPECT_EQ(Text("{\\rt"), "{\\rt");
+    EXPECT_EQ(Text("{\\rtf"), "");
+    EXPECT_EQ(Text("{\\rtf1\\ansicpg932 a\\'93"), "a\uFFFD");
 }
 
-TEST_F(RtfReaderBadInput, EveryPrefixOfASampleIsSound) {
+TEST_F(RtfReaderBadInput, ThePrefixesOfASampleAreItsBeginning) {
     for (const std::string& sample : Samples()) {
-        const std::size_t step = 1 + sample.size() / 300;
-        for (std::size_t length = 0; length < sample.size(); length += step) {
-            ExpectSound(ReadRtf(std::string_view(sample).substr(0, length)));
+        const std::u32string whole = PlainText(ReadRtf(sample));
+        // All of them where that is quick, else some hundreds at places that share no pattern with the lines.
+        const std::size_t step = sample.size() < 3000 ? 1 : sample.size() / 250 | 1U;
+        for (std::size_t length = std::string_view("{\\rtf").size(); length < sample.size(); length += step) {
+            const RichDocument cut = ReadRtf(std::string_view(sample).substr(0, length));
+            ASSERT_TRUE(IsSound(cut)) << sample.substr(0, length);
+            ASSERT_TRUE(IsBeginning(cut, whole)) << sample.substr(0, length);
         }
     }
 }
@@ -82,7 +111,10 @@ TEST_F(RtfReaderBadInput, DamagedSamplesAreSound) {
             for (int i = 0; i < 20; ++i) {
                 damaged[random() % damaged.size()] = kBytes[random() % kBytes.size()];
             }
-            ExpectSound(ReadRtf(damaged));
+            ASSERT_TRUE(IsSound(ReadRtf(damaged))) << damaged;
+            // A piece from one place stands in another, too.
+            damaged.insert(random() % damaged.size(), sample, random() % sample.size(), random() % 2000);
+            ASSERT_TRUE(IsSound(ReadRtf(damaged))) << damaged;
         }
     }
 }
@@ -94,7 +126,8 @@ TEST_F(RtfReaderBadInput, RandomBytesAreSound) {
         for (std::size_t length = random() % 400; length > 0; --length) {
             bytes += static_cast<char>(random());
         }
-        ExpectSound(ReadRtf(bytes));
+        ASSERT_TRUE(IsSound(ReadRtf(bytes)));
+        ASSERT_TRUE(IsSound(ReadRtf(bytes.substr(1))));
     }
 }
 
@@ -125,10 +158,16 @@ TEST_F(RtfReaderBadInput, NumbersOfAnySizeAreTaken) {
     EXPECT_EQ(document.paragraphs.at(0).runs.at(1).format.color, std::nullopt);
 }
 
-TEST_F(RtfReaderBadInput, ALongFontNameIsCut) {
-    const std::string name(100000, 'n');
-    const auto document = ReadRtf("{\\rtf1{\\fonttbl{\\f0 " + name + ";}}a{\\b b}}");
-    EXPECT_EQ(document.paragraphs.at(0).runs.at(1).format.font, name.substr(0, 255));
+TEST_F(RtfReaderBadInput, TablesOfAnySizeAreTaken) {
+    std::string fonts = "{\\fonttbl";
+    std::string colors = "{\\colortbl";
+    for (int i = 0; i < 50000; ++i) {
+        fonts += "{\\f" + std::to_string(i * 10007) + " N" + std::to_string(i) + ";}";
+        colors += "\\red" + std::to_string(i % 256) + ";";
+    }
+    const RichDocument document = ReadRtf("{\\rtf1" + fonts + "}" + colors + "}\\f10007\\cf49999 x}");
+    EXPECT_EQ(document.paragraphs.at(0).runs.at(0).format.font, "N1");
+    EXPECT_EQ(document.paragraphs.at(0).runs.at(0).format.color, (Color{49999 % 256, 0, 0}));
 }
 
 } // namespace

@@ -94,6 +94,7 @@ TEST_F(RtfReader, UnicodeCharactersReplaceWhatStandsBehindThem) {
                  {"\\uc3\\u8364 abcx", "\u20ACx"},
                  {"{\\uc0\\u8364}\\u8364?x", "\u20AC\u20ACx"},
                  {"\\u8364\\tab x", "\u20ACx"},
+                 {"\\uc3\\u8364\\~\\{\\'3fx", "\u20ACx"},
                  {"\\u8364\\u8364?x", "\u20AC\u20ACx"},
                  {"{\\u8364}x", "\u20ACx"},
                  {"\\u-10179?\\u-8548?x", "\U0001F69Cx"},
@@ -142,8 +143,12 @@ TEST_F(RtfReader, BinaryBlocksArePassedOver) {
 }
 
 TEST_F(RtfReader, TablesAreLinesOfTabs) {
-    EXPECT_EQ(Text("\\trowd\\cellx100\\intbl a\\cell b\\cell\\row\\trowd c\\cell\\cell\\row\\pard d"),
-              "a\tb\nc\t\nd");
+    ExpectTexts(
+        {{"\\trowd\\cellx100\\intbl a\\cell b\\cell\\row\\trowd c\\cell\\cell\\row\\pard d", "a\tb\nc\t\nd"},
+         {"{\\b a\\cell b\\cell}\\row c", "a\tb\nc"},
+         {"a\\nestcell b\\nestcell{\\*\\nesttableprops\\trowd\\nestrow}{\\nonesttables\\par}c\\cell d\\cell\\row",
+          "a\tb\nc\td\n"}},
+        Text);
 }
 
 TEST_F(RtfReader, FormatsHoldForTheirGroup) {
@@ -182,6 +187,17 @@ TEST_F(RtfReader, FormatsHoldForTheirGroup) {
     EXPECT_EQ(runs[9], (TextRun{U"k", format}));
 }
 
+TEST_F(RtfReader, TextThatNamesNoColourHasTheReadersOwn) {
+    const auto runs =
+        Runs("{\\colortbl\\red255\\green0\\blue0;\\red0\\green0\\blue255}a\\cf0 b\\plain c\\cf1 d\\cf-1 e");
+    ASSERT_EQ(runs.size(), 5U);
+    EXPECT_EQ(runs[0].format.color, std::nullopt);
+    EXPECT_EQ(runs[1].format.color, (Color{255, 0, 0}));
+    EXPECT_EQ(runs[2].format.color, std::nullopt);
+    EXPECT_EQ(runs[3].format.color, (Color{0, 0, 255}));
+    EXPECT_EQ(runs[4].format.color, std::nullopt);
+}
+
 TEST_F(RtfReader, ParagraphsTakeTheAlignmentInForceAtTheirEnd) {
     const RichDocument document = ReadRtf("{\\rtf1\\qc a\\par{\\qr b\\par}c\\par\\pard d\\par\\qj e}");
     ASSERT_EQ(document.paragraphs.size(), 5U);
@@ -194,7 +210,29 @@ TEST_F(RtfReader, ParagraphsTakeTheAlignmentInForceAtTheirEnd) {
 
 TEST_F(RtfReader, TheFontTableMayLackBracesAndTheLastSemicolon) {
     EXPECT_EQ(Runs("{\\fonttbl\\f0\\fswiss Helv;\\f1 Times}\\f1 x").at(0).format.font, "Times");
-    EXPECT_EQ(Runs("{\\fonttbl{\\f3\\fcharset204 \\'c0;}}\\f3 x").at(0).format.font, "\u0410");
+}
+
+TEST_F(RtfReader, FontNamesAreTakenWholeAndAlone) {
+    const auto font = [](const std::string& entry) {
+        return Runs("{\\fonttbl{\\f9 Other;}{\\f3" + entry + "}{\\f8 Another;}}\\f3 x").at(0).format.font;
+    };
+    EXPECT_EQ(font("\\fcharset204 \\'c0;"), "\u0410");
+    EXPECT_EQ(font("{\\*\\panose 0202}Arial{\\*\\falt Helvetica};"), "Arial");
+    EXPECT_EQ(font(" Ari{\\b a}l;"), "Arial");
+    EXPECT_EQ(font(" Arial; "), "Arial");
+    EXPECT_EQ(font(" Arial"), "Arial");
+    EXPECT_EQ(font(" Semi\\u59?colon;"), "Semi;colon");
+    EXPECT_EQ(font(" \\u-10179?\\u-8548?;"), "\U0001F69C");
+    EXPECT_EQ(font(" \\u-10179?x;"), "\uFFFDx");
+    EXPECT_EQ(font(";"), "");
+    EXPECT_EQ(font(" Old;}{\\f3 New;"), "New");
+    EXPECT_EQ(font(" " + std::string(100000, 'n') + ";"), std::string(63, 'n'));
+}
+
+TEST_F(RtfReader, TheBulletsOfSymbolFontsAreBullets) {
+    const std::string fonts = "{\\fonttbl{\\f0 A;}{\\f1\\fcharset2 Symbol;}}";
+    EXPECT_EQ(Text(fonts + "\\f1\\u-3913?\\'b7\\f0\\u-3913?\\'b7{\\listtext\\u-3913?}"),
+              "\u2022\u2022\uF0B7\u00B7\u2022");
 }
 
 TEST_F(RtfReader, WhatIsNoRichTextIsPlainTextOfTheCodePage) {

@@ -68,8 +68,8 @@ TEST(RtfWriter, EmptyParagraphsComeBack) {
 }
 
 TEST(RtfWriter, OddFontNamesComeBack) {
-    for (const char* name :
-         {"", " ", "Semi;colon", "Back\\slash", "{Braces}", "\u30B4\u30B7\u30C3\u30AF", "\U0001F69C"}) {
+    for (const char* name : {"", " ", "Semi;colon", "Back\\slash", "{Braces}", "Tab\tand\u2028line", "\n",
+                             "\u30B4\u30B7\u30C3\u30AF", "\U0001F69C"}) {
         ExpectRoundTrip(Document(U"text", Format(name, 24)));
     }
 }

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Records.h"
+
+#include <cstdint>
+#include <gmpxx.h>
+#include <string_view>
+#include <vector>
+
+// Exact rational arithmetic for a second evaluation of a test, which shares nothing with the program's but
+// the record. A number is rounded, exactly and once, where it becomes a Single or a double; running sums and
+// temporaries are not rounded unless a formula says so. Everything must be finite.
+namespace orvel::testing {
+
+// A run-time error of an evaluation.
+struct ExactError {
+    int number;
+};
+
+inline constexpr int kOverflow = 6;
+inline constexpr int kSubscriptOutOfRange = 9;
+inline constexpr int kDivisionByZero = 11;
+inline constexpr int kTypeMismatch = 13;
+
+// The description that goes with the number of an error.
+[[nodiscard]] const char* DescriptionOf(int number);
+
+// The bits of a Single to compare; rational numbers know no minus zero.
+[[nodiscard]] std::uint32_t Bits(float value);
+
+// To the nearest value of the type, ties to even; 0 below half of the smallest subnormal. Throws
+// ExactError 6.
+[[nodiscard]] float RoundToSingle(const mpq_class& value);
+[[nodiscard]] double RoundToDouble(const mpq_class& value);
+
+// The same to the 64 binary digits of the extended type, for the temporaries of a formula whose exact value
+// can lie in the middle between two Singles: there a temporary's own rounding decides.
+[[nodiscard]] mpq_class RoundToExtended(const mpq_class& value);
+
+// Throws ExactError 11 for x / 0 and 6 for 0 / 0.
+[[nodiscard]] mpq_class Quotient(const mpq_class& dividend, const mpq_class& divisor);
+
+// A decimal number with an optional sign, "." and exponent, blanks around it; an exponent beyond 5000 counts
+// as 5000, which is beyond every type all the same. Throws ExactError 13.
+[[nodiscard]] mpq_class ReadDecimal(std::string_view text);
+
+[[nodiscard]] std::string_view WithoutBlanks(std::string_view text);
+
+// A field's text, and the number it holds in the precision that is asked for. The numbers throw ExactError 13
+// or 6.
+template <std::size_t N>
+std::string_view Entry(const FixedText<N>& field) {
+    return WithoutBlanks(field.Whole());
+}
+
+template <std::size_t N>
+mpq_class Single(const FixedText<N>& field) {
+    return mpq_class(RoundToSingle(ReadDecimal(field.Whole())));
+}
+
+template <std::size_t N>
+mpq_class Double(const FixedText<N>& field) {
+    return mpq_class(RoundToDouble(ReadDecimal(field.Whole())));
+}
+
+// 3.14159265358979, as the double that these digits mean.
+[[nodiscard]] const mpq_class& ExactPi();
+
+// The cups before the first two zeros in a row. Throws ExactError 9 when entry 301 would be looked at.
+template <class Gauge>
+std::int16_t ExactCupCount(const MeasurementList<Gauge>& gauges) {
+    for (int i = 1; i < 300; ++i) {
+        if (gauges[i].Volume == 0.0F && gauges[i + 1].Volume == 0.0F) {
+            return static_cast<std::int16_t>(i - 1);
+        }
+    }
+    // The entry behind entry 300 is wanted whatever entry 300 holds.
+    throw ExactError{kSubscriptOutOfRange};
+}
+
+// The depth, in inches, of a volume (cc) in a cup of that diameter (cm).
+[[nodiscard]] float ExactDepth(float volume, const mpq_class& diameter);
+
+// Both in percent, and not rounded.
+[[nodiscard]] mpq_class ExactChristiansen(const std::vector<mpq_class>& depths, const mpq_class& average);
+[[nodiscard]] mpq_class ExactLowQuarter(std::vector<mpq_class> depths, const mpq_class& average);
+
+} // namespace orvel::testing
