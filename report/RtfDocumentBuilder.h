@@ -14,7 +14,7 @@ namespace orvel {
 struct RtfFormat {
     int font = 0;
     int halfPoints = 24;
-    int color = kNoColor;
+    int color = kReadersColor;
     bool isBold = false;
     bool isItalic = false;
     bool isUnderlined = false;

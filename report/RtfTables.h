@@ -14,7 +14,7 @@
 namespace orvel {
 
 // The number of no colour of a table: the reader's own.
-inline constexpr int kNoColor = -1;
+inline constexpr int kReadersColor = -1;
 
 // The fonts and colours of a rich-text file. First they are filled, an entry after the other as the words of
 // the tables come; then they are asked by the numbers that the text uses, which may be any.

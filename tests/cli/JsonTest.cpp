@@ -154,7 +154,7 @@ TEST(Json, RefusesDeepNesting) {
 }
 
 // Looking through all members for each new one would take minutes here.
-TEST(Json, ReadsLongArraysAndObjectsInLinearTime) {
+TEST(Json, ReadsLongArraysAndObjects) {
     constexpr int kCount = 200000;
     std::string array = "[";
     std::string object = "{";
