@@ -146,8 +146,10 @@ void AppendDataGraph(std::string& text, ColorRunTable& runs) {
 
     text += ReportLine("Data and Graph Summary");
     text += kCrLf;
-    text += ReportLine(std::string(graph.BarColumn(), ' '),
-                       TrimRight(PadText(ScaleTitle(), kScaleColumns, 'C', ' ')));
+    const std::string title = ScaleTitle();
+    const std::size_t titleColumns = std::max(title.size(), std::size_t{kScaleColumns});
+    text +=
+        ReportLine(std::string(graph.BarColumn(), ' '), TrimRight(PadText(title, titleColumns, 'C', ' ')));
     text += graph.TickNumbers();
     text += graph.Ticks();
     for (const Row& row : rows) {

@@ -80,7 +80,8 @@ RichDocument MemoryRichTextBox::Document() const {
             const FormatNumber number = formatNumbers[begin];
             std::u32string run;
             for (; begin < end && formatNumbers[begin] == number; ++begin) {
-                run += CurrentCodePage().ToUnicode(text[begin]);
+                const char32_t character = CurrentCodePage().ToUnicode(text[begin]);
+                run += character < U' ' && character != U'\t' ? U' ' : character;
             }
             document.paragraphs.back().Append(run, formats[number]);
         }

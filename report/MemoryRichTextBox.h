@@ -36,7 +36,8 @@ public:
     void Load(const std::filesystem::path& file) override;
     void Save(const std::filesystem::path& file) const override;
 
-    // The text with its formats; a CR LF, or either alone, ends a paragraph.
+    // The text with its formats; a CR LF, or either alone, ends a paragraph. Any other control character but
+    // tab, which no document holds, is a blank, so that columns stay below each other.
     [[nodiscard]] RichDocument Document() const;
 
 private:

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
+#include "cli/Json.h"
 #include "core/RecordFiles.h"
 #include "tests/cli/Program.h"
 #include "tests/support/TestFiles.h"
@@ -76,9 +77,42 @@ TEST_F(BadInput, AFieldThatIsNoNumberEndsTheReportThatPrintsIt) {
     test.TotalAcres = "many";
     const RunResult run = RunProgram({"report", Write("a.cpd")});
     EXPECT_EQ(run.status, 4);
+    EXPECT_EQ(run.out, "");
     EXPECT_TRUE(
         run.err.ends_with("Error Number: 13\nError Description: Type mismatch\nError Source: ORVEL\n\n"))
         << run.err;
+
+    PutContents(folder / "old.txt", "old");
+    EXPECT_EQ(RunProgram({"report", folder / "a.cpd", "-o", folder / "old.txt"}).status, 4);
+    EXPECT_EQ(Contents(folder / "old.txt"), "old");
+
+    const RunResult json = RunProgram({"report", "--json", folder / "a.cpd"});
+    EXPECT_EQ(json.status, 4);
+    const cli::Json report = cli::ParseJson(json.out);
+    EXPECT_EQ(report["ok"], false);
+    EXPECT_EQ(report["text"], "");
+    EXPECT_TRUE(report["colorRuns"].empty());
+    EXPECT_EQ(report["messages"].back()["title"], "Error");
+}
+
+TEST_F(BadInput, AReportGoesOnWithWhatStandsAfterACalculationThatFailed) {
+    auto solidSet = ReadTest<SolidSetTest>(Example("solid-set-1997.ssd"));
+    solidSet.Duration = "abc";
+    WriteTest(folder / "a.ssd", solidSet);
+    const RunResult run = RunProgram({"report", "--json", folder / "a.ssd"});
+    EXPECT_EQ(run.status, 4);
+    const cli::Json report = cli::ParseJson(run.out);
+    EXPECT_EQ(report["ok"], true);
+    EXPECT_NE(report["text"].get<std::string>().find("Application Rate = NOT COMPUTED\r\n"),
+              std::string::npos);
+    EXPECT_EQ(report["colorRuns"].size(), 7U);
+    ASSERT_EQ(report["messages"].size(), 2U);
+    EXPECT_EQ(report["messages"][0]["title"], "Possible Errors in Data");
+    EXPECT_EQ(report["messages"][1]["title"], "Error");
+
+    const RunResult file = RunProgram({"report", folder / "a.ssd", "-o", folder / "a.txt"});
+    EXPECT_EQ(file.status, 4);
+    EXPECT_EQ(Contents(folder / "a.txt"), report["text"].get<std::string>());
 }
 
 TEST_F(BadInput, SinglesThatAreNotFiniteRaiseOverflowWhereTheyAreComputedWith) {

@@ -104,6 +104,7 @@ TEST_F(DataGraph, TheScaleFitsTheLargestDepth) {
                                                           {0.2F, "      0.25      0.30\r\n"},
                                                           {0.31F, "      0.50      0.60\r\n"},
                                                           {0.6F, "      0.50      0.60\r\n"},
+                                                          {0.6001F, "      0.75      0.90\r\n"},
                                                           {0.61F, "      0.75      0.90\r\n"},
                                                           {1.0F, "      1.00      1.20\r\n"},
                                                           {1.3F, "      1.50      1.80\r\n"},
@@ -115,6 +116,14 @@ TEST_F(DataGraph, TheScaleFitsTheLargestDepth) {
         text.clear();
         EXPECT_NE(Draw().find(each.lastTicks), std::string::npos) << each.depth << "\n" << text;
     }
+}
+
+TEST_F(DataGraph, TheScaleFitsAnAverageThatNoCupReaches) {
+    // What a calculation that ended early left.
+    SetCups(0.7F, {{30.0F, 0.5F}});
+    Draw();
+    EXPECT_NE(text.find("      0.75      0.90\r\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("\r\nAverage 0.70  |" + std::string(47, '_') + "|\r\n"), std::string::npos) << text;
 }
 
 TEST_F(DataGraph, ABarEndsWhereTheScaleHasItsDepth) {
@@ -146,6 +155,14 @@ TEST_F(DataGraph, WiderNumbersWidenTheirLineAndAreNeverCut) {
     EXPECT_NE(text.find("\r\n10000000000 12345680.00  |_"), std::string::npos) << text;
     EXPECT_NE(text.find("\r\n         30        0.50  ||\r\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\r\nAverage     12345680.00  |_"), std::string::npos) << text;
+}
+
+TEST_F(DataGraph, AWideTimerSettingWidensTheHeadingAndIsNeverCut) {
+    SetCups(0.5F, {{30.0F, 0.5F}});
+    Pivot().PercentTimer = "1e30";
+    EXPECT_NE(Draw().find("  Inches of Water (1" + std::string(30, '0') + "% timer setting)\r\n"),
+              std::string::npos)
+        << text;
 }
 
 TEST_F(DataGraph, DrawsNoCupsZerosAndNegativeDepths) {

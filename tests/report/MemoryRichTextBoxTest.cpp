@@ -3,11 +3,14 @@
 #include "report/MemoryRichTextBox.h"
 
 #include "core/RunTimeError.h"
+#include "report/RtfReader.h"
+#include "report/RtfWriter.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
 
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
 namespace orvel {
 
@@ -33,6 +36,24 @@ TEST_F(MemoryRichText, ASelectionIsCutToTheText) {
     box.Select(9, 1);
     EXPECT_EQ(box.SelectionStart(), 5U);
     EXPECT_EQ(box.SelectionLength(), 0U);
+}
+
+TEST_F(MemoryRichText, ANewTextPutsTheCaretBeforeIt) {
+    box.SetText("12345");
+    box.Select(3, 2);
+    box.SetText("123456789");
+    EXPECT_EQ(box.SelectionStart(), 0U);
+    EXPECT_EQ(box.SelectionLength(), 0U);
+}
+
+TEST_F(MemoryRichText, TheCaretTakesAfterTheCharacterBeforeIt) {
+    box.SetText("abcd");
+    box.Select(1, 1);
+    box.SetSelectionBold(true);
+    for (const auto& [caret, isBold] : {std::pair{0U, false}, {1U, false}, {2U, true}, {3U, false}}) {
+        box.Select(caret, 0);
+        EXPECT_EQ(box.IsSelectionBold(), isBold) << caret;
+    }
 }
 
 TEST_F(MemoryRichText, FormatsTheSelectionAlone) {
@@ -112,6 +133,16 @@ TEST_F(MemoryRichText, EveryLineEndEndsAParagraphOfTheDocument) {
     EXPECT_EQ(paragraphs[2].runs.at(0).text, U"b");
     EXPECT_EQ(paragraphs[3].runs.at(0).text, U"c");
     EXPECT_TRUE(paragraphs[4].runs.empty());
+}
+
+TEST_F(MemoryRichText, ControlCharactersAreBlanksOfTheDocument) {
+    const std::string text("a\0b\x07"
+                           "c\x0b\x0c\x1f\td",
+                           10);
+    box.SetText(text);
+    EXPECT_EQ(box.Text(), text);
+    EXPECT_EQ(box.Document().paragraphs.at(0).runs.at(0).text, U"a b c   \td");
+    EXPECT_EQ(ReadRtf(WriteRtf(box.Document())), box.Document());
 }
 
 TEST_F(MemoryRichText, LocksAndUnlocks) {

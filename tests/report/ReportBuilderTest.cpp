@@ -307,6 +307,34 @@ TEST_F(ReportBuilderTest, TheCenterPivotBuildPassesErrorsOn) {
     ExpectRunTimeError(ErrorNumber::SubscriptOutOfRange, [this] { BuildPivot(); });
 }
 
+// Answers OK, and notes the report behind the message.
+class LookingMessageBox : public MessageBoxService {
+public:
+    explicit LookingMessageBox(const RichTextBox& ofReport) : report(ofReport) {}
+
+    std::string reportBehind;
+
+    Reply Show(const Message& message) override {
+        reportBehind = message.title + ": " + report.Text();
+        return Reply::Ok;
+    }
+
+private:
+    const RichTextBox& report;
+};
+
+TEST_F(ReportBuilderTest, TheTextIsEmptyBeforeTheSolidSetBuildShowsItsError) {
+    OpenSolid("solid-set-1997.ssd");
+    Expect1997Warnings();
+    BuildSolid();
+    ASSERT_FALSE(Text().empty());
+    LookingMessageBox looking(box);
+    UsePlatform({&looking, &beeper, &clock});
+    Solid().NumberX = "";
+    BuildSolid();
+    EXPECT_EQ(looking.reportBehind, "Error: ");
+}
+
 TEST_F(ReportBuilderTest, TheSolidSetBuildTrapsErrorsAndEmptiesTheText) {
     OpenSolid("solid-set-1997.ssd");
     Expect1997Warnings();

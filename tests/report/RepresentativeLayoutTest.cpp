@@ -108,6 +108,8 @@ TEST_F(RepresentativeLayout, EveryGridThatTheProgramAllowsFitsInEightyColumns) {
 TEST_F(RepresentativeLayout, WiderDepthsWidenTheirLineAndAreNeverCut) {
     SetGrid(2, 1, "", {12345.678F, 1.0F});
     EXPECT_EQ(Rows(), (std::vector<std::string>{"     1  12345.68     1.00"}));
+    SetGrid(1, 1, "T", {12345.678F});
+    EXPECT_EQ(Rows().at(2), "           +") << "a middle between two columns is the right one of them";
 }
 
 TEST_F(RepresentativeLayout, PointsBehindTheThreeHundredthAreLeftOut) {
