@@ -3,22 +3,20 @@
 #include "centerpivot/CenterPivotChecks.h"
 
 #include "tests/centerpivot/PivotFixture.h"
+#include "tests/support/DataCheckTest.h"
 
 #include <array>
-#include <limits>
 #include <string>
-#include <tuple>
-#include <vector>
 
 namespace orvel {
 namespace {
 
-using testing::ExpectRunTimeError;
+using testing::kFewMeasurements;
+using testing::kNoClient;
+using testing::kNoMeasurements;
 using testing::NumberField;
+using testing::ZeroCatch;
 
-constexpr const char* kNoMeasurements = "You Have Not Entered Any Irrigation Measurements.\r\n";
-constexpr const char* kFewMeasurements = "You Have Entered Less Than 3 Irrigation Measurements.\r\n";
-constexpr const char* kNoClient = "You Should Enter the Client Name.\r\n";
 constexpr const char* kNoDiameter = "Rain Gauge Diameter Must be Entered.\r\n";
 constexpr const char* kNoFirstDistance = "Distance to First Gauge Must be Entered.\r\n";
 constexpr const char* kNoSpacing = "Gauge Spacing Must be Entered.\r\n";
@@ -40,60 +38,21 @@ const std::string kEfficiency =
     "In order to calculate the Water Application Efficiency data required to calculate the GPM flow rate and "
     "either estimated or measured flow rate must be entered.\r\n\r\n";
 
-class CenterPivotChecksTest : public testing::PivotTest {
-protected:
-    CenterPivotChecksTest() { FillTest(); }
-
-    // Runs the checks, which must find exactly these errors and warnings.
-    void Expect(const std::string& errors, const std::string& warnings) {
-        std::string lastText = Program().messageText;
-        if (!errors.empty()) {
-            lastText = "You Have Errors That Will Prevent Report Creation.\r\n\r\n" + errors +
-                       "\r\n\r\nPlease Correct Entries.";
-            messageBox.Expect({lastText, "Errors in Data", Buttons::Ok, Icon::Critical}, Reply::Ok);
-        }
-        if (!warnings.empty()) {
-            lastText = "Potention Input Problems Were Found.\r\n\r\n" + warnings +
-                       "\r\n\r\nThese May Not Be Errors, But Should Be Checked.";
-            messageBox.Expect({lastText, "Possible Errors in Data", Buttons::Ok, Icon::Critical}, Reply::Ok);
-        }
-        EXPECT_EQ(CheckCenterPivotData(), errors.empty());
-        EXPECT_EQ(Program().messageText, lastText);
-    }
-
-    void ExpectWarnings(const std::vector<float>& volumes, const std::string& warnings) {
-        SetVolumes(volumes);
-        Expect("", warnings);
-    }
-};
+class CenterPivotChecksTest : public testing::DataCheckTest<testing::PivotTest, CheckCenterPivotData> {};
 
 TEST_F(CenterPivotChecksTest, PassesACompleteTestInSilence) {
     Expect("", "");
-    EXPECT_EQ(Program().messageReply, Reply::None);
-}
-
-TEST_F(CenterPivotChecksTest, KeepsTheReplyOfTheLastBox) {
-    Test().ClientName = "";
-    Expect(kNoClient, "");
-    EXPECT_EQ(Program().messageReply, Reply::Ok);
 }
 
 TEST_F(CenterPivotChecksTest, WantsThreeMeasurements) {
-    SetVolumes({10, 0, 0});
-    Expect(kFewMeasurements, "");
-    SetVolumes({10, 10, 0, 0, 10, 10});
-    Expect(kFewMeasurements, "");
-    SetVolumes({10, 10, 10});
-    Expect("", "");
-    SetVolumes({});
-    Expect(std::string(kNoMeasurements) + kFewMeasurements, "");
-    SetVolumes({0, 0, 10, 10, 10});
-    Expect(std::string(kNoMeasurements) + kFewMeasurements, "");
+    ExpectThreeMeasurementsWanted();
 }
 
 TEST_F(CenterPivotChecksTest, WantsTheEntriesThatAReportNeeds) {
-    Test().ClientName = "   ";
-    Expect(kNoClient, "");
+    for (const char* blank : {"", "   "}) {
+        Test().ClientName = blank;
+        Expect(kNoClient, "");
+    }
     FillTest();
     Test().GuageDiameter = "";
     Expect(kNoDiameter, "");
@@ -155,49 +114,18 @@ TEST_F(CenterPivotChecksTest, DoesNotReadTheEntriesAsNumbers) {
 }
 
 TEST_F(CenterPivotChecksTest, RemarksOnCatchesFarFromTheAverageVolume) {
-    const auto zero = [](int cup) {
-        return "No Value Was Entered For Gauge: " + std::to_string(cup) + "\r\n";
-    };
-    const auto high = [](int cup) {
-        return "The Value For Gauge " + std::to_string(cup) + " May be High (>200% of Average).\r\n";
-    };
-    const auto low = [](int cup) {
-        return "The Value For Gauge " + std::to_string(cup) + " May be Low (<50% of Average).\r\n";
-    };
-    // Each list averages 10 cc.
-    ExpectWarnings({20, 5, 5, 10}, "");
-    ExpectWarnings({20.5F, 5, 9.5F, 5}, high(1));
-    ExpectWarnings({4.9F, 15.1F, 10, 10}, low(1));
-    ExpectWarnings({10, 0, 20, 10, 10}, zero(2));
-    ExpectWarnings({0, 12, 0, 28, 4, 16}, zero(1) + zero(3) + high(4) + low(5));
-    // What lies behind the list is neither counted nor remarked on.
-    ExpectWarnings({10, 10, 10, 0, 0, 900, 1}, "");
-    ExpectWarnings({-5, 15, 20}, low(1));
+    ExpectRemarksOnCatches();
 }
 
-TEST_F(CenterPivotChecksTest, KeepsTheSumOfVolumesAsASingle) {
-    constexpr float kTwo21 = 2097152.0F;
-    constexpr float kTwo24 = 16777216.0F;
-    const std::string highFirst = "The Value For Gauge 1 May be High (>200% of Average).\r\n";
-    const auto low = [](int cup) {
-        return "The Value For Gauge " + std::to_string(cup) + " May be Low (<50% of Average).\r\n";
-    };
-    // Added behind 2^24 the two ones are lost, and half of the average is exactly 2^21, which is not low ...
-    ExpectWarnings({kTwo24, kTwo21, kTwo21, 1, 1}, highFirst + low(4) + low(5));
-    // ... but added before it they count.
-    ExpectWarnings({1, 1, kTwo24, kTwo21, kTwo21},
-                   low(1) + low(2) + "The Value For Gauge 3 May be High (>200% of Average).\r\n" + low(4) +
-                       low(5));
-    // The bounds themselves, and a hair outside of them.
-    ExpectWarnings({0.5F, 0.25F, 0.125F, 0.125F}, "");
-    ExpectWarnings({0.5F + 0x1p-24F, 0.25F, 0.125F, 0.125F - 0x1p-24F}, highFirst + low(4));
+TEST_F(CenterPivotChecksTest, KeepsSumAverageAndBoundsAsSingles) {
+    ExpectSumAverageAndBoundsKeptAsSingles();
 }
 
 TEST_F(CenterPivotChecksTest, ShowsErrorsThenWarnings) {
     Test().GuageSpacing = "";
     Test().RadLastSprinkler = "";
     SetVolumes({10, 0, 20, 10, 10});
-    Expect(kNoSpacing, kRate + "No Value Was Entered For Gauge: 2\r\n");
+    Expect(kNoSpacing, kRate + ZeroCatch(2));
 }
 
 TEST_F(CenterPivotChecksTest, TrimsEveryFieldItLooksAt) {
@@ -243,25 +171,11 @@ TEST_F(CenterPivotChecksTest, LooksAtAllFieldsThoughTheFirstIsBlank) {
 }
 
 TEST_F(CenterPivotChecksTest, LeavesAnEndlessListToItsCaller) {
-    Test().ClientName = "";
-    for (const int readings : {299, 300}) {
-        SetEqualVolumes(readings);
-        ExpectRunTimeError(ErrorNumber::SubscriptOutOfRange, [] { std::ignore = CheckCenterPivotData(); });
-    }
-    SetEqualVolumes(298);
-    Expect(kNoClient, "");
+    ExpectEndlessListRaises();
 }
 
 TEST_F(CenterPivotChecksTest, RaisesOverflowForAVolumeThatIsNoNumber) {
-    for (const float volume :
-         {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
-        SetVolumes({10, volume, 10});
-        ExpectRunTimeError(ErrorNumber::Overflow, [] { std::ignore = CheckCenterPivotData(); });
-    }
-    // One that is not counted is not looked at; a distance never is.
-    SetVolumes({10, 10, 10, 0, 0, std::numeric_limits<float>::quiet_NaN()});
-    Test().Gauges[1].Footage = std::numeric_limits<float>::infinity();
-    Expect("", "");
+    ExpectVolumeThatIsNoNumberRaises(&PivotGauge::Footage);
 }
 
 } // namespace

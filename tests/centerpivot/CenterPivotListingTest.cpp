@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "centerpivot/CenterPivotListing.h"
 
-#include "core/RecordLayout.h"
 #include "tests/centerpivot/PivotFixture.h"
+#include "tests/support/ListingCases.h"
 
 #include <algorithm>
 #include <limits>
@@ -14,23 +14,15 @@ namespace orvel {
 namespace {
 
 using testing::ExpectRunTimeError;
+using testing::kRuleLine;
 using testing::SameText;
 
-const std::string kRule = "========================================"
-                          "========================================\r\n";
 const std::string kHead = "     Cup   Footage    Volume\r\n";
 
 class CenterPivotListingTest : public testing::PivotTest {
 protected:
     // The part that lists the cups, without its rules.
-    static std::string Cups() {
-        const std::string text = CenterPivotListingText();
-        const std::size_t begin = text.find(kRule + kHead);
-        EXPECT_NE(begin, std::string::npos);
-        EXPECT_TRUE(text.ends_with(kRule));
-        const std::size_t skipped = begin + kRule.size() + kHead.size();
-        return text.substr(skipped, text.size() - kRule.size() - skipped);
-    }
+    static std::string Cups() { return testing::CupsOfListing(CenterPivotListingText(), kHead); }
 };
 
 TEST_F(CenterPivotListingTest, ListsEveryFieldUnderItsLabel) {
@@ -39,7 +31,7 @@ TEST_F(CenterPivotListingTest, ListsEveryFieldUnderItsLabel) {
     SetVolumes({141, 159.5F});
     EXPECT_TRUE(SameText(
         CenterPivotListingText(),
-        "                                Center Pivot Data                               \r\n" + kRule +
+        "                                Center Pivot Data                               \r\n" + kRuleLine +
             "Client Name:                      Alder Creek Farms\r\n"
             "Date of Test:                     08/15/1978\r\n"
             "Farm Name:                        Home Place\r\n"
@@ -89,40 +81,21 @@ TEST_F(CenterPivotListingTest, ListsEveryFieldUnderItsLabel) {
             "End Gun Overhang (feet):          40\r\n"
             "End Gun Radius (feet):            30\r\n"
             "Radius of Last Sprinkler (feet):  35\r\n" +
-            kRule + kHead +
+            kRuleLine + kHead +
             "      01        30       141\r\n"
             "      02        50       160\r\n" +
-            kRule));
+            kRuleLine));
 }
 
 TEST_F(CenterPivotListingTest, TakesEachValueFromItsOwnField) {
-    // A mark of its own in each text, so that no two fields can be mixed up.
-    std::size_t fields = 0;
-    for (const Field& field : kCenterPivotFields) {
-        if (field.kind == FieldKind::Text) {
-            const std::string mark = "<" + std::to_string(++fields) + ">";
-            const std::span<std::byte> bytes = FieldBytes(Test(), field);
-            std::ranges::transform(mark, bytes.begin(), [](char letter) { return std::byte(letter); });
-        }
-    }
-    const std::string text = CenterPivotListingText();
-    ASSERT_EQ(fields, 43U);
-    std::size_t last = 0;
-    for (std::size_t i = 1; i <= fields; ++i) {
-        const std::size_t place = text.find("<" + std::to_string(i) + ">");
-        ASSERT_NE(place, std::string::npos) << i;
-        EXPECT_GT(place, last) << "the record's order";
-        last = place;
-    }
+    testing::ExpectEachFieldOnItsLine(Test(), kCenterPivotFields, 43, CenterPivotListingText);
 }
 
 TEST_F(CenterPivotListingTest, LeavesTheRecordAsItIs) {
     FillTest();
     Test().ClientName = "  Alder";
     Test().PercentTimer = " 40";
-    const CenterPivotTest before = Test();
-    EXPECT_NE(CenterPivotListingText(), "");
-    EXPECT_TRUE(std::ranges::equal(AsBytes(Test()), AsBytes(before)));
+    testing::ExpectListingLeavesRecord(Test(), CenterPivotListingText);
 }
 
 TEST_F(CenterPivotListingTest, ListsUpToTheLastEntryThatHoldsAnything) {

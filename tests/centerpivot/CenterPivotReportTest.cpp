@@ -14,10 +14,8 @@ namespace orvel {
 namespace {
 
 using testing::ExpectRunTimeError;
+using testing::kRuleLine;
 using testing::SameText;
-
-const std::string kRule = "========================================"
-                          "========================================\r\n";
 
 class CenterPivotReportTest : public testing::PivotTest {
 protected:
@@ -33,11 +31,11 @@ TEST_F(CenterPivotReportTest, HeadingNamesTestClientAndTester) {
     Program().userSettings.EMail = "ida@extension.example";
     EXPECT_TRUE(SameText(
         CenterPivotHeadingText(),
-        "                 Center Pivot Water Application Uniformity Test                 \r\n" + kRule +
+        "                 Center Pivot Water Application Uniformity Test                 \r\n" + kRuleLine +
             "Date of Test: 08/15/1978\r\n"
             "File Name:    north.cpd\r\n"
             "Report Date:  2026-07-04 09:05:03\r\n" +
-            kRule +
+            kRuleLine +
             "Test Conducted For:                For Further Information Contact:\r\n"
             "Alder Creek Farms                  Ida Lund\r\n"
             "Home Place                         E-Mail: ida@extension.example\r\n"
@@ -47,7 +45,7 @@ TEST_F(CenterPivotReportTest, HeadingNamesTestClientAndTester) {
             "Sample County                      \r\n"
             "555-0114                           \r\n"
             "E-Mail: office@farm.example        \r\n" +
-            kRule));
+            kRuleLine));
     EXPECT_EQ(Test().ClientName.Whole().substr(0, 5), "Alder");
 }
 
@@ -69,14 +67,14 @@ TEST_F(CenterPivotReportTest, FieldSectionWithEveryLine) {
                  "Common Tillage: No Till\r\n"
                  "Predominate Crops: Corn-Alfalfa\r\n"
                  "Comments (field): Stubble.\r\n" +
-                     kRule));
+                     kRuleLine));
     EXPECT_EQ(Test().FieldName.Whole().substr(0, 5), "North");
     EXPECT_EQ(Test().TotalAcres.Whole().substr(0, 6), "1234.5");
 }
 
 TEST_F(CenterPivotReportTest, FieldSectionOfANewTestIsEmpty) {
     Test() = NewCenterPivotTest();
-    EXPECT_TRUE(SameText(CenterPivotFieldText(), "Field Information\r\n" + kRule));
+    EXPECT_TRUE(SameText(CenterPivotFieldText(), "Field Information\r\n" + kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, FieldSectionPrintsBareLabelsOfBlankChoices) {
@@ -84,14 +82,14 @@ TEST_F(CenterPivotReportTest, FieldSectionPrintsBareLabelsOfBlankChoices) {
                                                  "Soil Type: \r\n"
                                                  "Soil Slope: \r\n"
                                                  "Common Tillage: \r\n" +
-                                                     kRule));
+                                                     kRuleLine));
     Test().SoilType = " Choose Soil Type ";
     Test().SoilSlope = "Choose Soil Type";
     Test().CommonTillage = "choose common tillage";
     EXPECT_TRUE(SameText(CenterPivotFieldText(), "Field Information\r\n"
                                                  "Soil Slope: Choose Soil Type\r\n"
                                                  "Common Tillage: choose common tillage\r\n" +
-                                                     kRule));
+                                                     kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, FieldSectionPrintsAcresThatRoundToNothing) {
@@ -101,7 +99,7 @@ TEST_F(CenterPivotReportTest, FieldSectionPrintsAcresThatRoundToNothing) {
     EXPECT_TRUE(SameText(CenterPivotFieldText(), "Field Information\r\n"
                                                  "Estimated Acres: \r\n"
                                                  "Irrigated Acres: \r\n" +
-                                                     kRule));
+                                                     kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, WarnsOfAcresMoreThanTenPercentOff) {
@@ -141,7 +139,7 @@ TEST_F(CenterPivotReportTest, SystemSectionWithEveryLine) {
                                                   "Measured Flow Rate:  1000\r\n"
                                                   "Measured Pressure:  42\r\n"
                                                   "Operation Times: Daytime Only\r\n" +
-                                                      kRule));
+                                                      kRuleLine));
     EXPECT_EQ(Test().LengthOverhang.Whole().substr(0, 4), "40.5");
     EXPECT_EQ(Test().OperatingTimes.Whole().substr(0, 3), "Day");
 }
@@ -150,14 +148,14 @@ TEST_F(CenterPivotReportTest, SystemSectionOfANewTestPrintsThePromptOfTheOperati
     Test() = NewCenterPivotTest();
     EXPECT_TRUE(SameText(CenterPivotSystemText(), "System Information\r\n"
                                                   "Operation Times: Choose Operating Time\r\n" +
-                                                      kRule));
+                                                      kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, SystemSectionOfABlankTestPrintsTheBareLabelsOfItsChoices) {
     EXPECT_TRUE(SameText(CenterPivotSystemText(), "System Information\r\n"
                                                   "System Manufacturer: \r\n"
                                                   "Type Sprinkler: \r\n" +
-                                                      kRule));
+                                                      kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, SystemLengthNeedsBothLengths) {
@@ -192,7 +190,7 @@ TEST_F(CenterPivotReportTest, ResultsWithEveryLine) {
                                                    "Christiansen Method       CU = 88%\r\n"
                                                    "Heermann and Hein Method  CU = 07%\r\n"
                                                    "Low Quarter Distribution  CU = 100%\r\n" +
-                                                       kRule));
+                                                       kRuleLine));
     EXPECT_EQ(Test().PercentTimer.Whole().substr(0, 4), "37.5");
 }
 
@@ -203,7 +201,7 @@ TEST_F(CenterPivotReportTest, ResultsLeaveOutWhatCouldNotBeComputed) {
                                      "Christiansen Method       CU = 00%\r\n"
                                      "Heermann and Hein Method  CU = 00%\r\n"
                                      "Low Quarter Distribution  CU = 00%\r\n" +
-                                     kRule;
+                                     kRuleLine;
     EXPECT_TRUE(SameText(CenterPivotResultsText(), withoutThree));
     Results().CalculatedFlowRate = -1;
     Results().ApplicationEfficiency = -1;
@@ -226,7 +224,7 @@ TEST_F(CenterPivotReportTest, ResultsFollowTheirMasks) {
                                                    "Christiansen Method       CU = -05%\r\n"
                                                    "Heermann and Hein Method  CU = 80%\r\n"
                                                    "Low Quarter Distribution  CU = 133%\r\n" +
-                                                       kRule));
+                                                       kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, ApplicationRateIsALineWithoutAUnitOrNothing) {
@@ -285,7 +283,7 @@ TEST_F(CenterPivotReportTest, UniformityAnalysisOfAGoodSystem) {
     Results().ApplicationEfficiency = 0.871412F;
     EXPECT_TRUE(SameText(CenterPivotUniformityText(), kIntroduction + "88%" + kAbove + kPoints + kLowQuarter +
                                                           "84%" + kVariability + kEfficiency + "87.14" +
-                                                          kNotNecessarily + kRule));
+                                                          kNotNecessarily + kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, UniformityAnalysisOfAPoorSystem) {
@@ -294,14 +292,15 @@ TEST_F(CenterPivotReportTest, UniformityAnalysisOfAPoorSystem) {
     Results().ApplicationEfficiency = 0.5F;
     EXPECT_TRUE(SameText(CenterPivotUniformityText(), kIntroduction + "61%" + kBelow + kPoints + kLowQuarter +
                                                           "07%" + kVariability + kEfficiency + "50." +
-                                                          kImprovements + kRule));
+                                                          kImprovements + kRuleLine));
 }
 
 TEST_F(CenterPivotReportTest, UniformityAnalysisWithoutAnEfficiency) {
     for (const float efficiency : {0.0F, -0.5F}) {
         Results().ApplicationEfficiency = efficiency;
         EXPECT_TRUE(SameText(CenterPivotUniformityText(), kIntroduction + "00%" + kBelow + kPoints +
-                                                              kLowQuarter + "00%" + kVariability + kRule));
+                                                              kLowQuarter + "00%" + kVariability +
+                                                              kRuleLine));
     }
 }
 
@@ -340,8 +339,8 @@ TEST_F(CenterPivotReportTest, PrintsARoundedEfficiencyButTestsTheExactOne) {
     };
     for (const Case& row : cases) {
         Results().ApplicationEfficiency = row.efficiency;
-        const std::string ending =
-            kVariability + kEfficiency + row.printed + (row.isGood ? kNotNecessarily : kImprovements) + kRule;
+        const std::string ending = kVariability + kEfficiency + row.printed +
+                                   (row.isGood ? kNotNecessarily : kImprovements) + kRuleLine;
         EXPECT_TRUE(CenterPivotUniformityText().ends_with(ending)) << row.efficiency;
     }
 }
@@ -367,7 +366,7 @@ TEST_F(CenterPivotReportTest, CommentsKeepTheirPaddingAndTheRecord) {
     Test().OtherComments = "  Repeat.\r\nSoon.";
     const std::string whole = "  Repeat.\r\nSoon." + std::string(2000 - 16, ' ');
     EXPECT_TRUE(SameText(CenterPivotCommentsText(),
-                         "Other Comments / Recomendations:\r\n" + whole + "\r\n\r\n" + kRule));
+                         "Other Comments / Recomendations:\r\n" + whole + "\r\n\r\n" + kRuleLine));
     EXPECT_EQ(Test().OtherComments.Whole(), whole);
 }
 

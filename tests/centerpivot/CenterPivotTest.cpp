@@ -3,6 +3,7 @@
 #include "centerpivot/CenterPivot.h"
 
 #include "tests/centerpivot/PivotFixture.h"
+#include "tests/support/CatchCanCases.h"
 
 #include <array>
 #include <bit>
@@ -16,14 +17,12 @@ namespace {
 
 using testing::ExpectRunTimeError;
 using testing::GenerationErrorMessage;
+using testing::kEarlier;
 using testing::NumberField;
 
 constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr const char* kTitle = "Center Pivot Water Application Uniformity Test";
-
-// What an earlier calculation left, told apart from anything these tests compute.
-constexpr float kEarlier = -77.0F;
 
 class CenterPivotCalculation : public testing::PivotTest {
 protected:
@@ -32,18 +31,10 @@ protected:
     static void LeaveEarlierResults() {
         Results().ReportTitle = "earlier";
         Results().CupCount = 7;
-        for (float CenterPivotResults::*result : kSingles) {
-            Results().*result = kEarlier;
-        }
+        testing::LeaveEarlier(Results(), kSingles);
     }
 
-    // The first `count` of the results, in the order of their steps, are new; the others are the earlier
-    // ones.
-    static void ExpectComputed(std::size_t count) {
-        for (std::size_t i = 0; i < kSingles.size(); ++i) {
-            EXPECT_EQ(Results().*kSingles.at(i) != kEarlier, i < count) << "result " << i;
-        }
-    }
+    static void ExpectComputed(std::size_t count) { testing::ExpectNew(Results(), kSingles, count); }
 
     void CalculateWith(int number, const std::string& description) {
         messageBox.Expect(GenerationErrorMessage(number, description));
@@ -96,21 +87,8 @@ TEST_F(CenterPivotCalculation, WeighsHeermannAndHeinByTheDistance) {
 }
 
 TEST_F(CenterPivotCalculation, CountsUpToTheFirstPairOfZeroVolumes) {
-    struct Case {
-        std::vector<float> volumes;
-        std::int16_t count;
-        float average; // of the volumes
-    };
-    const std::array cases = {
-        Case{{5, 0, 6, 0, 0}, 3, 11.0F / 3.0F},
-        Case{{5}, 1, 5},
-        Case{{0, 8}, 2, 4},
-        Case{{5, 7, 0, 0, 9, 9}, 2, 6},
-        Case{{4, 0, 4, 0, 4, 0, 4}, 7, 16.0F / 7.0F},
-        Case{std::vector<float>(298, 3.0F), 298, 3},
-    };
     Test().GuageDiameter = "10";
-    for (const Case& row : cases) {
+    for (const testing::CountedList& row : testing::kCountedLists) {
         SetVolumes(row.volumes);
         CalculateCenterPivot();
         EXPECT_EQ(Results().CupCount, row.count);
@@ -150,16 +128,7 @@ TEST_F(CenterPivotCalculation, WithoutCupsDividesZeroByZero) {
 }
 
 TEST_F(CenterPivotCalculation, SpreadsAVolumeOverTheCupsOpening) {
-    struct Case {
-        const char* diameter;
-        float volume;
-        float depth;
-    };
-    constexpr std::array kCases = {
-        Case{"10", 100, 0.50127542F}, Case{" 10.0 ", 200, 1.0025508F}, Case{"-10", 100, 0.50127542F},
-        Case{"20", 100, 0.12531886F}, Case{"5", 100, 2.0051017F},      Case{"10", -100, -0.50127542F},
-    };
-    for (const Case& row : kCases) {
+    for (const testing::SpreadVolume& row : testing::kSpreadVolumes) {
         Test().GuageDiameter = row.diameter;
         SetVolumes({row.volume});
         CalculateCenterPivot();
@@ -185,22 +154,10 @@ TEST_F(CenterPivotCalculation, CopiesPositionAndDistanceAndKeepsTheRowsAbove) {
 }
 
 TEST_F(CenterPivotCalculation, StopsAtACupThatHasNoDepth) {
-    struct Case {
-        const char* diameter;
-        float firstVolume;
-        int number;
-        const char* description;
-    };
-    constexpr std::array kCases = {
-        Case{"", 5, 13, "Type mismatch"},      Case{"abc", 5, 13, "Type mismatch"},
-        Case{"0", 5, 11, "Division by zero"},  Case{"0.0", 0, 6, "Overflow"},
-        Case{"10", kNaN, 6, "Overflow"},       Case{"10", kInfinity, 6, "Overflow"},
-        Case{"0.00001", 1e38F, 6, "Overflow"},
-    };
-    for (const Case& row : kCases) {
+    for (const testing::ImpossibleDepth& row : testing::kImpossibleDepths) {
         SCOPED_TRACE(row.diameter);
         FillTest();
-        SetCups({row.firstVolume, 6}, {11, 22});
+        SetCups({row.volume, 6}, {11, 22});
         Test().GuageDiameter = row.diameter;
         LeaveEarlierResults();
         Row(1) = {91, 92, 93};
@@ -228,19 +185,9 @@ TEST_F(CenterPivotCalculation, FindsTheLargestDepthWhereverItStands) {
 }
 
 TEST_F(CenterPivotCalculation, EqualDepthsAreExactlyUniform) {
-    struct Case {
-        int cups;
-        float lowQuarter; // the nearest whole number of quarters over the quarter itself
-    };
-    constexpr std::array kCases = {
-        Case{1, 0},          Case{2, 0},          Case{3, 400.0F / 3.0F}, Case{4, 100},
-        Case{5, 80},         Case{6, 800.0F / 6}, Case{7, 800.0F / 7},    Case{8, 100},
-        Case{9, 800.0F / 9}, Case{10, 80},        Case{14, 1600.0F / 14}, Case{100, 100},
-        Case{296, 100},
-    };
-    for (const char* diameter : {"10", "11.195", "7.3"}) {
+    for (const char* diameter : testing::kOddDiameters) {
         Test().GuageDiameter = diameter;
-        for (const Case& row : kCases) {
+        for (const testing::EqualCups& row : testing::kEqualCups) {
             SetEqualVolumes(row.cups);
             CalculateCenterPivot();
             EXPECT_EQ(Results().ChristiansenCU, 100.0F) << row.cups;

@@ -198,17 +198,7 @@ TEST_F(Commands, TheExampleIsBuiltFromItsJson) {
 }
 
 TEST_F(Commands, BuildOfADumpGivesTheSameBytes) {
-    std::string bytes = Contents(kPivot);
-    for (std::size_t i = 0; i < bytes.size(); i += 7) {
-        bytes[i] = static_cast<char>(i * i);
-    }
-    PutContents(folder / "wild.cpd", bytes);
-    const RunResult dump = RunProgram({"dump", folder / "wild.cpd"});
-    ASSERT_EQ(dump.status, 0);
-    const RunResult build =
-        RunProgram(Call{.arguments = {"build", "-", "-o", folder / "again.cpd"}, .input = dump.out});
-    EXPECT_EQ(build.status, 0) << build.err;
-    EXPECT_EQ(Contents(folder / "again.cpd"), bytes);
+    ExpectBuildOfDumpGivesTheSameBytes(kPivot);
 }
 
 TEST_F(Commands, BuildMakesTheFileNewAsAWhole) {

@@ -30,4 +30,7 @@ struct Call {
 [[nodiscard]] RunResult RunProgram(const Call& call);
 [[nodiscard]] RunResult RunProgram(const std::vector<std::string>& arguments);
 
+// Changes bytes all over the record of a test file; what is built of the dump must have the same ones.
+void ExpectBuildOfDumpGivesTheSameBytes(const std::filesystem::path& testFile);
+
 } // namespace orvel::testing

@@ -135,17 +135,7 @@ TEST_F(SolidSetCommands, TheExamplesAreBuiltFromTheirJson) {
 }
 
 TEST_F(SolidSetCommands, BuildOfADumpGivesTheSameBytes) {
-    std::string bytes = Contents(kSolid);
-    for (std::size_t i = 0; i < bytes.size(); i += 7) {
-        bytes[i] = static_cast<char>(i * i);
-    }
-    PutContents(folder / "wild.ssd", bytes);
-    const RunResult dump = RunProgram({"dump", folder / "wild.ssd"});
-    ASSERT_EQ(dump.status, 0);
-    const RunResult build =
-        RunProgram(Call{.arguments = {"build", "-", "-o", folder / "again.ssd"}, .input = dump.out});
-    EXPECT_EQ(build.status, 0) << build.err;
-    EXPECT_EQ(Contents(folder / "again.ssd"), bytes);
+    ExpectBuildOfDumpGivesTheSameBytes(kSolid);
 }
 
 TEST_F(SolidSetCommands, ANewTestHasItsOwnPrompts) {

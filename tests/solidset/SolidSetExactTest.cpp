@@ -8,9 +8,7 @@
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <limits>
 #include <map>
-#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -18,11 +16,9 @@ namespace orvel {
 
 namespace {
 
-using testing::Bits;
-using testing::DescriptionOf;
+using testing::BoxOf;
 using testing::EvaluateExactly;
 using testing::ExactSolidSetResults;
-using testing::GenerationErrorMessage;
 
 constexpr int kTests = 12'000;
 
@@ -36,7 +32,7 @@ public:
         test.GuageDiameter = Rarely(40) ? Scribble() : Rarely(150) ? Faulty() : Decimal(40, 200, 10);
         test.Duration = Rarely(12) ? Scribble() : Number(10, 7200, 10);
         spread = Below(5);
-        const int count = CupCount();
+        const int count = CupCount(20);
         const bool cancels = Rarely(100);
         for (int i = 1; i <= count; ++i) {
             const bool isDry = i < count && !Rarely(2) && Rarely(8);
@@ -72,35 +68,21 @@ private:
         }
     }
 
-    int CupCount() {
-        if (Rarely(200)) {
-            return static_cast<int>(From(299, 300));
-        }
-        return static_cast<int>(Rarely(20) ? From(0, 298) : From(0, 32));
-    }
-
     std::uint64_t spread = 0;
 };
 
-// What differs, one line each; empty when all is equal to the last bit.
-std::string Differences(const SolidSetResults& actual, const ExactSolidSetResults& exact) {
-    std::ostringstream text;
-    text.precision(std::numeric_limits<float>::max_digits10);
-    const auto compare = [&text](const std::string& name, float left, float right) {
-        if (Bits(left) != Bits(right)) {
-            text << name << ": " << left << " instead of " << right << "\n";
-        }
-    };
-    compare("SolidSetCupCount", actual.SolidSetCupCount, exact.cupCount);
-    compare("SolidSetMaximumDepth", actual.SolidSetMaximumDepth, exact.maximumDepth);
-    compare("SolidSetAverageDepth", actual.SolidSetAverageDepth, exact.averageDepth);
-    compare("SolidSetCU", actual.SolidSetCU, exact.cu);
-    compare("SolidSetDU", actual.SolidSetDU, exact.du);
-    compare("SolidSetApplicationRate", actual.SolidSetApplicationRate, exact.applicationRate);
+std::string DifferencesOf(const SolidSetResults& actual, const ExactSolidSetResults& exact) {
+    testing::Differences differences;
+    differences.Compare("SolidSetCupCount", actual.SolidSetCupCount, exact.cupCount);
+    differences.Compare("SolidSetMaximumDepth", actual.SolidSetMaximumDepth, exact.maximumDepth);
+    differences.Compare("SolidSetAverageDepth", actual.SolidSetAverageDepth, exact.averageDepth);
+    differences.Compare("SolidSetCU", actual.SolidSetCU, exact.cu);
+    differences.Compare("SolidSetDU", actual.SolidSetDU, exact.du);
+    differences.Compare("SolidSetApplicationRate", actual.SolidSetApplicationRate, exact.applicationRate);
     for (std::size_t i = 0; i < exact.depths.size(); ++i) {
-        compare("depth " + std::to_string(i), actual.SolidSetDepths.at(i), exact.depths.at(i));
+        differences.Compare("depth " + std::to_string(i), actual.SolidSetDepths.at(i), exact.depths.at(i));
     }
-    return text.str();
+    return differences.Text();
 }
 
 class SolidSetExactTest : public testing::SolidTest {
@@ -109,17 +91,9 @@ protected:
     ExactSolidSetResults Compare(const SolidSetTest& test, const ExactSolidSetResults& before) {
         ExactSolidSetResults exact = EvaluateExactly(test, before);
         Test() = test;
-        Program().messageText.clear();
-        std::string expectedText;
-        if (exact.error) {
-            const Message box = GenerationErrorMessage(*exact.error, DescriptionOf(*exact.error));
-            messageBox.Expect(box);
-            expectedText = box.text;
-        }
-        CalculateSolidSet();
-        EXPECT_EQ(Program().messageText, expectedText);
+        RunExpecting(CalculateSolidSet, BoxOf(exact.error));
         EXPECT_EQ(Test().Duration.Whole(), exact.duration);
-        EXPECT_EQ(Differences(SolidResults(), exact), "")
+        EXPECT_EQ(DifferencesOf(SolidResults(), exact), "")
             << "diameter \"" << test.GuageDiameter.Trimmed() << "\", duration \"" << exact.duration << "\"";
         return exact;
     }
@@ -157,14 +131,12 @@ TEST_F(SolidSetExactTest, RandomTestsAgreeWithTheExactEvaluationToTheLastBit) {
 
 TEST_F(SolidSetExactTest, LongListsOfWidelySpreadCupsAgreeToTheLastBit) {
     FillTest();
-    for (const int count : {2, 3, 5, 6, 7, 13, 50, 99, 150, 297, 298}) {
+    for (const int count : testing::kListLengths) {
         SCOPED_TRACE(count);
         SolidSetTest test = Test();
         test.Gauges = {};
         for (int i = 1; i <= count; ++i) {
-            // 0.1 to 5000 cc over the list, in an order that no sort likes.
-            const int place = i * 151 % 307;
-            test.Gauges[i].Volume = 0.1F * std::pow(50000.0F, static_cast<float>(place) / 307.0F);
+            test.Gauges[i].Volume = testing::WidelySpreadVolume(i);
         }
         const ExactSolidSetResults exact = Compare(test, {});
         EXPECT_EQ(exact.error, std::nullopt);

@@ -4,6 +4,7 @@
 
 #include "core/ProgramState.h"
 #include "solidset/SolidSet.h"
+#include "tests/support/CatchCanCases.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
 
@@ -85,12 +86,6 @@ private:
     static constexpr std::size_t kCupsOfAColumn = 3;
 };
 
-// The depth, in inches, of 100 cc in a cup of 10 cm.
-inline constexpr float kHundredCc = 0.50127542F;
-
-// What an earlier calculation left, told apart from anything the tests compute.
-inline constexpr float kEarlier = -77.0F;
-
 // Tests of the calculation and of what it leaves when it ends early.
 class SolidCalculationTest : public SolidTest {
 protected:
@@ -101,18 +96,10 @@ protected:
     static void LeaveEarlierResults() {
         Results().SolidSetCupCount = 7;
         Results().SolidSetDepths.fill(kEarlier);
-        for (float SolidSetResults::*result : kSingles) {
-            Results().*result = kEarlier;
-        }
+        LeaveEarlier(Results(), kSingles);
     }
 
-    // The first `count` of the results, in the order of their steps, are new; the others are the earlier
-    // ones.
-    static void ExpectComputed(std::size_t count) {
-        for (std::size_t i = 0; i < kSingles.size(); ++i) {
-            EXPECT_EQ(Results().*kSingles.at(i) != kEarlier, i < count) << "result " << i;
-        }
-    }
+    static void ExpectComputed(std::size_t count) { ExpectNew(Results(), kSingles, count); }
 
     void CalculateWith(int number, const std::string& description) {
         messageBox.Expect(GenerationErrorMessage(number, description));

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "solidset/SolidSetListing.h"
 
-#include "core/RecordLayout.h"
 #include "tests/solidset/SolidSetFixture.h"
+#include "tests/support/ListingCases.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -16,10 +16,9 @@ namespace orvel {
 namespace {
 
 using testing::ExpectRunTimeError;
+using testing::kRuleLine;
 using testing::SameText;
 
-const std::string kRule = "========================================"
-                          "========================================\r\n";
 const std::string kHead = "     Cup    X Axis    Y Axis    Volume\r\n";
 
 class SolidSetListing : public testing::SolidTest {
@@ -27,14 +26,7 @@ protected:
     SolidSetListing() { FillTest(); }
 
     // The part that lists the cups, without its rules.
-    static std::string Cups() {
-        const std::string text = SolidSetListingText();
-        const std::size_t begin = text.find(kRule + kHead);
-        EXPECT_NE(begin, std::string::npos);
-        EXPECT_TRUE(text.ends_with(kRule));
-        const std::size_t skipped = begin + kRule.size() + kHead.size();
-        return text.substr(skipped, text.size() - kRule.size() - skipped);
-    }
+    static std::string Cups() { return testing::CupsOfListing(SolidSetListingText(), kHead); }
 };
 
 TEST_F(SolidSetListing, ListsEveryFieldAndEveryMeasurement) {
@@ -44,7 +36,7 @@ TEST_F(SolidSetListing, ListsEveryFieldAndEveryMeasurement) {
     Test().Gauges[2].XAxis = 0.0F;
     EXPECT_TRUE(SameText(
         SolidSetListingText(),
-        "                                 Solid Set Data                                 \r\n" + kRule +
+        "                                 Solid Set Data                                 \r\n" + kRuleLine +
             "Client Name:                      Marsh Hollow Nursery\r\n"
             "Date of Test:                     06/12/1997\r\n"
             "Farm Operator:                    D. Okafor\r\n"
@@ -82,34 +74,16 @@ TEST_F(SolidSetListing, ListsEveryFieldAndEveryMeasurement) {
             "Sprinkler Head Configuration:     T\r\n"
             "Sprinkler Spacing:                80 by 80 ft\r\n"
             "Duration of Test (minutes):       60\r\n" +
-            kRule + kHead +
+            kRuleLine + kHead +
             "      01         1         1       114\r\n"
             "      02                   2          \r\n"
             "      03         1         3   1234567\r\n"
             "      04         2         1         9\r\n" +
-            kRule));
+            kRuleLine));
 }
 
 TEST_F(SolidSetListing, TakesEachValueFromItsOwnField) {
-    // A mark of its own in each text, so that no two fields can be mixed up; the layout has room for a
-    // letter.
-    std::size_t marks = 0;
-    for (const Field& field : kSolidSetFields) {
-        if (field.kind == FieldKind::Text && field.width > 1) {
-            const std::string mark = "<" + std::to_string(++marks) + ">";
-            std::ranges::transform(mark, FieldBytes(Test(), field).begin(),
-                                   [](char letter) { return std::byte(letter); });
-        }
-    }
-    const std::string text = SolidSetListingText();
-    ASSERT_EQ(marks, 32U);
-    std::size_t last = 0;
-    for (std::size_t i = 1; i <= marks; ++i) {
-        const std::size_t place = text.find("<" + std::to_string(i) + ">");
-        ASSERT_NE(place, std::string::npos) << i;
-        EXPECT_GT(place, last) << "the record's order";
-        last = place;
-    }
+    testing::ExpectEachFieldOnItsLine(Test(), kSolidSetFields, 32, SolidSetListingText);
 }
 
 TEST_F(SolidSetListing, OfABlankTestHasEveryLabel) {
@@ -170,9 +144,7 @@ TEST_F(SolidSetListing, LeavesTheRecordAsItIs) {
     Test().ClientName = "  Name";
     Test().Duration = " 60";
     Test().Gauges[5].Volume = -0.0F;
-    const SolidSetTest before = Test();
-    EXPECT_NE(SolidSetListingText(), "");
-    EXPECT_TRUE(std::ranges::equal(AsBytes(Test()), AsBytes(before)));
+    testing::ExpectListingLeavesRecord(Test(), SolidSetListingText);
 }
 
 TEST_F(SolidSetListing, RaisesOverflowForANumberThatIsNone) {

@@ -14,11 +14,9 @@ namespace orvel {
 namespace {
 
 using testing::ExpectRunTimeError;
+using testing::kRule;
+using testing::kRuleLine;
 using testing::SameText;
-
-const std::string kRule = "========================================"
-                          "========================================";
-const std::string kRuleLine = kRule + "\r\n";
 
 class SolidSetReport : public testing::SolidTest {
 protected:

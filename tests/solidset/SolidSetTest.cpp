@@ -49,19 +49,9 @@ TEST_F(SolidSetCalculation, DepthsOneToFourAreUniformBySixtyAndForty) {
 }
 
 TEST_F(SolidSetCalculation, EqualDepthsAreExactlyUniform) {
-    struct Case {
-        int cups;
-        float lowQuarter; // the nearest whole number of quarters over the quarter itself
-    };
-    constexpr std::array kCases = {
-        Case{1, 0},          Case{2, 0},          Case{3, 400.0F / 3.0F}, Case{4, 100},
-        Case{5, 80},         Case{6, 800.0F / 6}, Case{7, 800.0F / 7},    Case{8, 100},
-        Case{9, 800.0F / 9}, Case{10, 80},        Case{14, 1600.0F / 14}, Case{100, 100},
-        Case{296, 100},
-    };
-    for (const char* diameter : {"10", "11.195", "7.3"}) {
+    for (const char* diameter : testing::kOddDiameters) {
         Test().GuageDiameter = diameter;
-        for (const Case& row : kCases) {
+        for (const testing::EqualCups& row : testing::kEqualCups) {
             SetEqualVolumes(row.cups);
             CalculateSolidSet();
             EXPECT_EQ(Results().SolidSetCU, 100.0F) << row.cups;
@@ -90,21 +80,8 @@ TEST_F(SolidSetCalculation, TheLowQuarterGoesByTheStoredDepthsAndAverage) {
 }
 
 TEST_F(SolidSetCalculation, CountsUpToTheFirstPairOfZeroVolumes) {
-    struct Case {
-        std::vector<float> volumes;
-        std::int16_t count;
-        float average; // of the volumes
-    };
-    const std::array cases = {
-        Case{{5, 0, 6, 0, 0}, 3, 11.0F / 3.0F},
-        Case{{5}, 1, 5},
-        Case{{0, 8}, 2, 4},
-        Case{{5, 7, 0, 0, 9, 9}, 2, 6},
-        Case{{4, 0, 4, 0, 4, 0, 4}, 7, 16.0F / 7.0F},
-        Case{std::vector<float>(298, 3.0F), 298, 3},
-    };
     Test().GuageDiameter = "10";
-    for (const Case& row : cases) {
+    for (const testing::CountedList& row : testing::kCountedLists) {
         SetVolumes(row.volumes);
         // The grid's own count is not what counts.
         Test().NumberX = "2";
@@ -116,16 +93,7 @@ TEST_F(SolidSetCalculation, CountsUpToTheFirstPairOfZeroVolumes) {
 }
 
 TEST_F(SolidSetCalculation, SpreadsAVolumeOverTheCupsOpening) {
-    struct Case {
-        const char* diameter;
-        float volume;
-        float depth;
-    };
-    constexpr std::array kCases = {
-        Case{"10", 100, kHundredCc},  Case{" 10.0 ", 200, 1.0025508F}, Case{"-10", 100, kHundredCc},
-        Case{"20", 100, 0.12531886F}, Case{"5", 100, 2.0051017F},      Case{"10", -100, -kHundredCc},
-    };
-    for (const Case& row : kCases) {
+    for (const testing::SpreadVolume& row : testing::kSpreadVolumes) {
         Test().GuageDiameter = row.diameter;
         SetVolumes({row.volume});
         CalculateSolidSet();

@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/ExactArithmetic.h"
 
+#include "tests/support/LogicTest.h"
+
 #include <algorithm>
 #include <bit>
 #include <cstdlib>
 #include <limits>
 #include <map>
 #include <regex>
+#include <sstream>
 #include <string>
 
 namespace orvel::testing {
@@ -79,8 +82,21 @@ const char* DescriptionOf(int number) {
     return kDescriptions.at(number);
 }
 
+std::optional<Message> BoxOf(const std::optional<int>& error) {
+    return error ? std::optional(GenerationErrorMessage(*error, DescriptionOf(*error))) : std::nullopt;
+}
+
 std::uint32_t Bits(float value) {
     return value == 0 ? 0 : std::bit_cast<std::uint32_t>(value);
+}
+
+void Differences::Compare(const std::string& name, float actual, float exact) {
+    if (Bits(actual) != Bits(exact)) {
+        std::ostringstream line;
+        line.precision(std::numeric_limits<float>::max_digits10);
+        line << name << ": " << actual << " instead of " << exact << "\n";
+        text += line.str();
+    }
 }
 
 float RoundToSingle(const mpq_class& value) {

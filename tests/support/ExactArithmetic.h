@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Platform.h"
 #include "core/Records.h"
 
 #include <cstdint>
 #include <gmpxx.h>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -27,8 +30,21 @@ inline constexpr int kTypeMismatch = 13;
 // The description that goes with the number of an error.
 [[nodiscard]] const char* DescriptionOf(int number);
 
+// The box that the program shows for the error of an evaluation; none without one.
+[[nodiscard]] std::optional<Message> BoxOf(const std::optional<int>& error);
+
 // The bits of a Single to compare; rational numbers know no minus zero.
 [[nodiscard]] std::uint32_t Bits(float value);
+
+// What differs between two evaluations, one line each; no text when all is equal to the last bit.
+class Differences {
+public:
+    void Compare(const std::string& name, float actual, float exact);
+    [[nodiscard]] const std::string& Text() const { return text; }
+
+private:
+    std::string text;
+};
 
 // To the nearest value of the type, ties to even; 0 below half of the smallest subnormal. Throws
 // ExactError 6.

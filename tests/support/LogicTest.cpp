@@ -29,4 +29,13 @@ LogicTest::~LogicTest() {
     UseCodePage(CodePage::Windows1252());
 }
 
+void LogicTest::RunExpecting(void (*calculate)(), const std::optional<Message>& box) {
+    Program().messageText.clear();
+    if (box) {
+        messageBox.Expect(*box);
+    }
+    calculate();
+    EXPECT_EQ(Program().messageText, box ? box->text : "");
+}
+
 } // namespace orvel::testing

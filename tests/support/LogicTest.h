@@ -7,9 +7,14 @@
 #include "tests/support/Fakes.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
 
 namespace orvel::testing {
+
+// The line between two sections of a report.
+inline const std::string kRule(80, '=');
+inline const std::string kRuleLine = kRule + "\r\n";
 
 // Numbers as German writes them: "," before the decimals, "." between thousands.
 [[nodiscard]] NumberLocale GermanNumbers();
@@ -22,6 +27,9 @@ class LogicTest : public ::testing::Test {
 protected:
     LogicTest();
     ~LogicTest() override;
+
+    // Runs a calculation, which must show that box and keep its text, or show none.
+    void RunExpecting(void (*calculate)(), const std::optional<Message>& box);
 
     FakeMessageBox messageBox;
     FakeBeeper beeper;

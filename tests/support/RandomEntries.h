@@ -3,11 +3,20 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <random>
 #include <string>
 
 namespace orvel::testing {
+
+// Lengths of measurement lists, and volumes of 0.1 to 5000 cc over them, in an order that no sort likes.
+inline constexpr std::array kListLengths = {2, 3, 5, 6, 7, 13, 50, 99, 150, 297, 298};
+
+inline float WidelySpreadVolume(int cup) {
+    const int place = cup * 151 % 307;
+    return 0.1F * std::pow(50000.0F, static_cast<float>(place) / 307.0F);
+}
 
 // Random entries as a user might type them, and a few as no user should. The engine's numbers are the same
 // everywhere; what the library's distributions make of them is not, so there are none here.
@@ -39,6 +48,14 @@ protected:
 
     std::string Number(std::uint64_t first, std::uint64_t last, std::uint64_t unit) {
         return Rarely(40) ? Faulty() : Rarely(12) ? std::string{} : Decimal(first, last, unit);
+    }
+
+    // Mostly some tens, now and then as many as a list holds, or more than can be counted.
+    int CupCount(std::uint64_t oneLongIn) {
+        if (Rarely(200)) {
+            return static_cast<int>(From(299, 300));
+        }
+        return static_cast<int>(Rarely(oneLongIn) ? From(0, 298) : From(0, 32));
     }
 
 private:
