@@ -2,13 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "core/CodePage.h"
 
+#include "core/CharsetDecoder.h"
 #include "core/Unicode.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <clocale>
 #include <cstddef>
-#include <iconv.h>
 #include <langinfo.h>
 
 namespace orvel {
@@ -23,47 +22,12 @@ unsigned char Byte(char character) {
     return static_cast<unsigned char>(character);
 }
 
-// One conversion descriptor from a character set to UTF-32.
-class Decoder {
-public:
-    explicit Decoder(const std::string& charset) : descriptor(iconv_open("UTF-32LE", charset.c_str())) {}
-
-    ~Decoder() {
-        if (IsOpen()) {
-            iconv_close(descriptor);
-        }
-    }
-
-    Decoder(const Decoder&) = delete;
-    Decoder& operator=(const Decoder&) = delete;
-
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the failure value that iconv_open is documented with.
-    [[nodiscard]] bool IsOpen() const { return descriptor != reinterpret_cast<iconv_t>(-1); }
-
-    // What the one byte stands for; nothing when the set assigns nothing to it. `isIncomplete` is set when
-    // more bytes would have to follow.
-    std::optional<char32_t> Decode(char byte, bool& isIncomplete) {
-        std::array<unsigned char, 8> output{};
-        char* in = &byte;
-        std::size_t inLeft = 1;
-        char* out = reinterpret_cast<char*>(output.data());
-        std::size_t outLeft = output.size();
-        iconv(descriptor, nullptr, nullptr, nullptr, nullptr);
-        const std::size_t result = iconv(descriptor, &in, &inLeft, &out, &outLeft);
-        if (result == static_cast<std::size_t>(-1)) {
-            isIncomplete = isIncomplete || errno == EINVAL;
-            return std::nullopt;
-        }
-        if (outLeft != output.size() - 4) {
-            return std::nullopt;
-        }
-        return output[0] | static_cast<char32_t>(output[1]) << 8U | static_cast<char32_t>(output[2]) << 16U |
-               static_cast<char32_t>(output[3]) << 24U;
-    }
-
-private:
-    iconv_t descriptor;
-};
+// What the one byte stands for; nothing when the set assigns no character to it.
+std::optional<char32_t> CharacterOf(CharsetDecoder& decoder, char byte) {
+    std::u32string text;
+    const bool isTaken = decoder.Decode({&byte, 1}, text) == 1;
+    return isTaken && text.size() == 1 ? std::optional(text.front()) : std::nullopt;
+}
 
 CodePage& Current() {
     static CodePage page = CodePage::Windows1252();
@@ -93,27 +57,25 @@ CodePage CodePage::Windows1252() {
 }
 
 std::optional<CodePage> CodePage::Named(const std::string& charset) {
-    Decoder decoder(charset);
-    if (!decoder.IsOpen()) {
-        return std::nullopt;
-    }
-    bool isIncomplete = false;
+    CharsetDecoder decoder(charset);
     for (std::size_t i = 0; i < kHalf; ++i) {
-        if (decoder.Decode(static_cast<char>(i), isIncomplete) != static_cast<char32_t>(i)) {
+        if (CharacterOf(decoder, static_cast<char>(i)) != static_cast<char32_t>(i)) {
             return std::nullopt;
         }
     }
     std::array<char32_t, kHalf> codePoints{};
     std::size_t assigned = 0;
+    bool isMultiByte = false;
     for (std::size_t i = 0; i < kHalf; ++i) {
-        const auto codePoint = decoder.Decode(static_cast<char>(kHalf + i), isIncomplete);
+        const auto codePoint = CharacterOf(decoder, static_cast<char>(kHalf + i));
+        isMultiByte = isMultiByte || decoder.HasStoppedInside();
         assigned += codePoint ? 1U : 0U;
         codePoints[i] = codePoint.value_or(static_cast<char32_t>(kHalf + i));
     }
     CodePage page(codePoints);
     const bool leavesAscii = std::ranges::all_of(codePoints, [](char32_t each) { return each >= kHalf; });
     const bool isOneToOne = leavesAscii && page.bytes.size() == kHalf;
-    if (isIncomplete || assigned == 0 || !isOneToOne) {
+    if (isMultiByte || assigned == 0 || !isOneToOne) {
         return std::nullopt;
     }
     return page;

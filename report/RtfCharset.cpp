@@ -2,14 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "report/RtfCharset.h"
 
+#include "core/CharsetDecoder.h"
 #include "core/Unicode.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstddef>
-#include <cstring>
-#include <iconv.h>
 
 namespace orvel {
 
@@ -51,25 +49,14 @@ const Page& PageOf(int number) {
 
 } // namespace
 
-// One conversion to Unicode. Where the system lacks the code page, bytes have their own numbers.
+// Where the system lacks the code page, bytes have their own numbers.
 class RtfCharsets::Converter {
 public:
-    explicit Converter(const Page& page)
-        : isMultiByte(page.isMultiByte), descriptor(iconv_open("UTF-32LE", page.name)) {}
-
-    ~Converter() {
-        if (IsOpen()) {
-            iconv_close(descriptor);
-        }
-    }
-
-    Converter(const Converter&) = delete;
-    Converter& operator=(const Converter&) = delete;
+    explicit Converter(const Page& page) : isMultiByte(page.isMultiByte), decoder(page.name) {}
 
     void Decode(std::string_view bytes, std::u32string& text) {
         while (!bytes.empty()) {
-            const std::size_t taken = IsOpen() ? Convert(bytes, text) : 0;
-            bytes.remove_prefix(taken);
+            bytes.remove_prefix(decoder.Decode(bytes, text));
             if (!bytes.empty()) {
                 const auto byte = static_cast<unsigned char>(bytes.front());
                 text += isMultiByte && byte >= 0x80 ? kReplacementCharacter : char32_t{byte};
@@ -79,35 +66,8 @@ public:
     }
 
 private:
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): the failure value that iconv_open is documented with.
-    [[nodiscard]] bool IsOpen() const { return descriptor != reinterpret_cast<iconv_t>(-1); }
-
-    // Converts up to the first byte that is wrong; answers how many it took.
-    std::size_t Convert(std::string_view bytes, std::u32string& text) {
-        std::array<char, 4096> output; // NOLINT(cppcoreguidelines-pro-type-member-init): iconv fills it
-        char* in = const_cast<char*>(bytes.data()); // NOLINT(cppcoreguidelines-pro-type-const-cast)
-        std::size_t inLeft = bytes.size();
-        const auto convert = [&](char** source) {
-            char* out = output.data();
-            std::size_t outLeft = output.size();
-            const std::size_t result = iconv(descriptor, source, &inLeft, &out, &outLeft);
-            const bool isFull = result == static_cast<std::size_t>(-1) && errno == E2BIG;
-            const std::size_t length = output.size() - outLeft;
-            const std::size_t before = text.size();
-            text.resize(before + length / sizeof(char32_t));
-            std::memcpy(text.data() + before, output.data(), length);
-            return isFull;
-        };
-        iconv(descriptor, nullptr, nullptr, nullptr, nullptr);
-        while (convert(&in)) {
-        }
-        // Some pages hold a character back, in case an accent follows.
-        (void)convert(nullptr);
-        return bytes.size() - inLeft;
-    }
-
     bool isMultiByte;
-    iconv_t descriptor;
+    CharsetDecoder decoder;
 };
 
 int CodePageOfCharset(int charset) {

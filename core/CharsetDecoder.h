@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <iconv.h>
+#include <string>
+#include <string_view>
+
+namespace orvel {
+
+// The system's conversion from a character set to Unicode.
+class CharsetDecoder {
+public:
+    // The set's name as iconv knows it. One that the system lacks takes no byte.
+    explicit CharsetDecoder(const std::string& charset);
+    ~CharsetDecoder();
+    CharsetDecoder(const CharsetDecoder&) = delete;
+    CharsetDecoder& operator=(const CharsetDecoder&) = delete;
+
+    // Appends what the bytes stand for, up to the first that is wrong or begins a character that they don't
+    // end. Every call begins anew. Returns how many bytes were taken.
+    std::size_t Decode(std::string_view bytes, std::u32string& text);
+
+    // Whether the last call stopped at a character that its bytes don't end.
+    [[nodiscard]] bool HasStoppedInside() const { return hasStoppedInside; }
+
+private:
+    [[nodiscard]] bool IsOpen() const;
+
+    iconv_t descriptor;
+    bool hasStoppedInside = false;
+};
+
+} // namespace orvel
