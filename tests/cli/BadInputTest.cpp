@@ -18,6 +18,7 @@ namespace orvel::testing {
 namespace {
 
 const std::string kPivot = Example("pivot-1978.cpd");
+constexpr const char* kNow = "2026-07-04 09:05:03";
 constexpr const char* kFourLines = "[Error]\nSorry, an error occurred generating report...\nError Number: ";
 
 class BadInput : public ::testing::Test {
@@ -99,7 +100,7 @@ TEST_F(BadInput, AReportGoesOnWithWhatStandsAfterACalculationThatFailed) {
     auto solidSet = ReadTest<SolidSetTest>(Example("solid-set-1997.ssd"));
     solidSet.Duration = "abc";
     WriteTest(folder / "a.ssd", solidSet);
-    const RunResult run = RunProgram({"report", "--json", folder / "a.ssd"});
+    const RunResult run = RunProgram({"report", "--json", "--now", kNow, folder / "a.ssd"});
     EXPECT_EQ(run.status, 4);
     const cli::Json report = cli::ParseJson(run.out);
     EXPECT_EQ(report["ok"], true);
@@ -110,7 +111,7 @@ TEST_F(BadInput, AReportGoesOnWithWhatStandsAfterACalculationThatFailed) {
     EXPECT_EQ(report["messages"][0]["title"], "Possible Errors in Data");
     EXPECT_EQ(report["messages"][1]["title"], "Error");
 
-    const RunResult file = RunProgram({"report", folder / "a.ssd", "-o", folder / "a.txt"});
+    const RunResult file = RunProgram({"report", "--now", kNow, folder / "a.ssd", "-o", folder / "a.txt"});
     EXPECT_EQ(file.status, 4);
     EXPECT_EQ(Contents(folder / "a.txt"), report["text"].get<std::string>());
 }
