@@ -12,9 +12,7 @@ target_compile_options(orvel_own_code INTERFACE
 
 if(ORVEL_SANITIZE)
   target_compile_options(orvel_own_code INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
-    # With them g++ 12 takes its library's regular expressions for uninitialized.
-    -Wno-maybe-uninitialized)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(orvel_own_code INTERFACE -fsanitize=address,undefined)
   target_sources(orvel_own_code INTERFACE
     $<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${PROJECT_SOURCE_DIR}/cmake/LeakSuppressions.cpp>)
