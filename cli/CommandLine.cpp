@@ -8,7 +8,9 @@
 #include "cli/Output.h"
 #include "cli/Services.h"
 #include "core/CodePage.h"
+#include "core/FileNames.h"
 #include "core/ProgramState.h"
+#include "core/Version.h"
 
 #include <CLI/CLI.hpp>
 
@@ -57,11 +59,6 @@ constexpr std::array<Command, 7> kCommands = {{
     {"dump", RunDump, kKind, "The record as JSON", kTestFile},
     {"text", RunText, kJson, "The plain text of a rich-text file", "A rich-text file"},
 }};
-
-std::filesystem::path FolderOfExecutable() {
-    std::error_code error;
-    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-}
 
 // Without a name of its own: the help shows the option's type name.
 CLI::Validator Check(std::string (*complaint)(const std::string&)) {
@@ -206,7 +203,7 @@ int Dispatch(const CLI::App& app, const Options& options) {
 int ReadAndRun(int argc, const char* const* argv) {
     CLI::App app{kAbout, "orvel-cli"};
     app.footer(kFooter);
-    app.set_version_flag("--version", "orvel-cli " ORVEL_VERSION);
+    app.set_version_flag("--version", std::string("orvel-cli ") + ProgramVersion());
     app.require_subcommand(1);
     Options options;
     options.programDirectory = FolderOfExecutable();

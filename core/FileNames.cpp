@@ -22,12 +22,26 @@ bool FileExists(const std::filesystem::path& path) {
     return std::filesystem::exists(status) && !std::filesystem::is_directory(status);
 }
 
+bool FolderExists(const std::filesystem::path& path) {
+    std::error_code error;
+    return std::filesystem::is_directory(path, error);
+}
+
 std::string FileNameText(const std::filesystem::path& path) {
     return PathText(path.filename());
 }
 
 std::string PathText(const std::filesystem::path& path) {
     return SystemToText(path.native());
+}
+
+std::filesystem::path FolderOfExecutable() {
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+}
+
+std::filesystem::path PathOfText(std::string_view text) {
+    return CurrentCodePage().IsOfSystem() ? std::string{text} : ToUtf8(text);
 }
 
 bool HasExtension(const std::filesystem::path& path, std::string_view extension) {

@@ -13,11 +13,19 @@ namespace orvel {
 // folder are none.
 [[nodiscard]] bool FileExists(const std::filesystem::path& path);
 
+[[nodiscard]] bool FolderExists(const std::filesystem::path& path);
+
 // The file's name without its folder, in the program's code page.
 [[nodiscard]] std::string FileNameText(const std::filesystem::path& path);
 
 // A whole path in the program's code page, as far as the page can hold it.
 [[nodiscard]] std::string PathText(const std::filesystem::path& path);
+
+// The folder that the running program is in.
+[[nodiscard]] std::filesystem::path FolderOfExecutable();
+
+// The path that a text of the program's code page names.
+[[nodiscard]] std::filesystem::path PathOfText(std::string_view text);
 
 // Whether the name ends in "." and the extension, in any case ("TEST.CPD" has "cpd").
 [[nodiscard]] bool HasExtension(const std::filesystem::path& path, std::string_view extension);

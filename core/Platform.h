@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <string>
+#include <string_view>
 
 // What the program's logic asks of the machine it runs on. Floor 4 implements these services for a desktop
 // or for a terminal; tests put fakes in their place.
@@ -49,12 +51,77 @@ public:
     virtual DateTime Now() = 0;
 };
 
-// The services in force. All must be set before any routine that uses them is called; the caller of
-// UsePlatform keeps the objects alive.
+// Flags of the common file dialogs.
+enum DialogFlag : unsigned {
+    kOverwritePrompt = 0x2, // ask before an existing file is taken
+    kHideReadOnly = 0x4,    // no box "open read-only"
+    kPathMustExist = 0x800,
+    kCreatePrompt = 0x2000,
+};
+
+inline constexpr unsigned kSaveDialogFlags =
+    kCreatePrompt | kHideReadOnly | kOverwritePrompt | kPathMustExist;
+
+// What a dialog for opening or saving is asked for.
+struct FileDialog {
+    std::string title;
+    std::string filter;           // "Text Files (*.txt)|*.txt": what is shown, "|", the pattern
+    std::string defaultExtension; // added to a typed name that has no extension at all
+    std::filesystem::path initialFolder; // empty: where the dialog likes
+    unsigned flags = 0;                  // of DialogFlag
+};
+
+// Both return the chosen file, or an empty path when the user cancelled.
+class FileDialogService {
+public:
+    virtual ~FileDialogService() = default;
+    virtual std::filesystem::path Open(const FileDialog& dialog) = 0;
+    virtual std::filesystem::path Save(const FileDialog& dialog) = 0;
+};
+
+class FolderBrowser {
+public:
+    virtual ~FolderBrowser() = default;
+    // The chosen folder, or an empty path when the user cancelled.
+    virtual std::filesystem::path Browse(const std::string& title) = 0;
+};
+
+class KeySender {
+public:
+    virtual ~KeySender() = default;
+    // Presses keys as if typed into the control that has the focus: "^Z" is Ctrl+Z.
+    virtual void Send(std::string_view keys) = 0;
+};
+
+// Texts that are kept for each user, under the application's title.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+    // The fallback when nothing was kept.
+    virtual std::string Get(const std::string& section, const std::string& key,
+                            const std::string& fallback) = 0;
+    virtual void Save(const std::string& section, const std::string& key, const std::string& value) = 0;
+};
+
+class EventPump {
+public:
+    virtual ~EventPump() = default;
+    // Handles the window events that wait. False when the program is to end.
+    virtual bool ProcessEvents() = 0;
+};
+
+// The services in force. Those that a routine uses must be set before it is called; the caller of UsePlatform
+// keeps the objects alive.
 struct Platform {
     MessageBoxService* messageBox = nullptr;
     Beeper* beeper = nullptr;
     Clock* clock = nullptr;
+    // For windows only.
+    FileDialogService* fileDialogs = nullptr;
+    FolderBrowser* folderBrowser = nullptr;
+    KeySender* keySender = nullptr;
+    SettingsStore* settingsStore = nullptr;
+    EventPump* eventPump = nullptr;
 };
 
 [[nodiscard]] const Platform& CurrentPlatform();

@@ -1,0 +1,182 @@
+# SPDX-FileCopyrightText: 2026 The ORVEL developers
+# SPDX-License-Identifier: MIT
+"""A program on an X display of its own, seen through the accessibility bus and used by real clicks and keys.
+
+    with Desktop(["build/dev/ui/orvel"]) as desktop:
+        desktop.choose("File", "New Client")
+        desktop.type_into("File name:", "/tmp/new.cpd\\n")
+
+Controls are known by their accessible names. Whatever is looked for is waited for.
+Needs the Debian packages xvfb, openbox, xdotool, dbus, at-spi2-core, python3-gi, gir1.2-atspi-2.0.
+"""
+
+import os
+import subprocess
+import tempfile
+import time
+
+PATIENCE = 20  # seconds
+
+
+class Desktop:
+    def __init__(self, command, environment=None):
+        self.command = command
+        self.environment = environment or {}
+        self.processes = []
+        self.program = None
+        self.tree = None
+
+    def __enter__(self):
+        try:
+            self.start()
+        except BaseException:
+            self.stop()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        self.stop()
+
+    def start(self):
+        # The bus is asked in this process, so that its address must stand in this environment.
+        self.runtime = tempfile.TemporaryDirectory()
+        os.environ.update(
+            DISPLAY=":" + self._first_line_of("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"),
+            XDG_RUNTIME_DIR=self.runtime.name,
+            HOME=self.runtime.name,
+            QT_QPA_PLATFORM="xcb",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            GSETTINGS_BACKEND="memory",
+        )
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._first_line_of(
+            "dbus-daemon", "--session", "--nofork", "--print-address=1")
+        self._run("openbox")
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+        Atspi.init()
+        self.bus = Atspi
+        self.program = self._run(*self.command, stderr=subprocess.PIPE, env=os.environ | self.environment)
+
+    def stop(self):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.terminate()
+                process.wait()
+            for pipe in (process.stdout, process.stderr):
+                if pipe is not None:
+                    pipe.close()
+        self.runtime.cleanup()
+
+    def status(self):
+        """Waits until the program ends by itself; its exit status."""
+        return self.program.wait(PATIENCE)
+
+    # --- What is there -----------------------------------------------------------------------------------
+
+    def find(self, name, role=None):
+        """The control of that accessible name that is shown."""
+        return self._wait(lambda: self._search(name, role), "%s %s" % (role or "control", name))
+
+    def is_there(self, name, role=None):
+        return self._search(name, role) is not None
+
+    def wait_until_gone(self, name, role=None):
+        self._wait(lambda: not self.is_there(name, role), "the end of " + name)
+
+    def wait_for_text(self, name):
+        """Waits for a label of that text."""
+        self.find(name, "label")
+
+    def text_of(self, name):
+        control = self.find(name, "text")
+        return self.bus.Text.get_text(control, 0, -1)
+
+    # --- What is done ------------------------------------------------------------------------------------
+
+    def press(self, name, role="push button"):
+        self._click(self.find(name, role))
+
+    def choose(self, menu, item):
+        """Opens a menu of the menu bar and clicks on an item."""
+        self._click(self.find(menu, "menu item"))
+        self._click(self.find(item, "menu item"))
+        self._wait(lambda: not self.is_there(item, "menu item"), "the menu to close")
+
+    def type_into(self, name, text):
+        """Replaces the text of a text box; "\\n" presses Return."""
+        self._click(self.find(name, "text"))
+        self.keys("ctrl+a")
+        self.type(text)
+
+    def type(self, text):
+        self._xdotool("type", "--delay", "5", text.replace("\n", "\r"))
+
+    def keys(self, *names):
+        self._xdotool("key", "--delay", "20", *names)
+
+    # ------------------------------------------------------------------------------------------------------
+
+    def _run(self, *command, **options):
+        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, text=True,
+                                   **({"stderr": subprocess.DEVNULL} | options))
+        self.processes.append(process)
+        return process
+
+    def _first_line_of(self, *command):
+        line = self._run(*command, stdout=subprocess.PIPE).stdout.readline().strip()
+        if not line:
+            raise RuntimeError(command[0] + " does not start")
+        return line
+
+    def _xdotool(self, *arguments):
+        subprocess.run(["xdotool", *arguments], check=True)
+
+    def _click(self, control):
+        area = control.get_component_iface().get_extents(self.bus.CoordType.SCREEN)
+        self._xdotool("mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click", "1")
+
+    def _wait(self, condition, what):
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            found = condition()
+            if found:
+                return found
+            if self.program.poll() is not None:
+                raise AssertionError("%s: the program ended: %s" % (what, self.program.stderr.read()))
+            time.sleep(0.05)
+        raise AssertionError("waited in vain for " + what)
+
+    def _search(self, name, role):
+        shown = self.bus.StateType.SHOWING
+        for control in self._controls(self._application()):
+            try:
+                if (control.get_name() == name and (role is None or control.get_role_name() == role)
+                        and control.get_state_set().contains(shown)):
+                    return control
+            except Exception:  # the control has gone meanwhile
+                continue
+        return None
+
+    def _application(self):
+        screen = self.bus.get_desktop(0)
+        for i in range(screen.get_child_count()):
+            application = screen.get_child_at_index(i)
+            if application is not None and application.get_process_id() == self.program.pid:
+                return application
+        return None
+
+    def _controls(self, control):
+        if control is None:
+            return
+        yield control
+        try:
+            count = control.get_child_count()
+        except Exception:  # it has gone meanwhile
+            return
+        for i in range(count):
+            try:
+                child = control.get_child_at_index(i)
+            except Exception:
+                continue
+            yield from self._controls(child)

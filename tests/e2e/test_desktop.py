@@ -1,0 +1,133 @@
+# SPDX-FileCopyrightText: 2026 The ORVEL developers
+# SPDX-License-Identifier: MIT
+"""Uses the built program as a user does, and looks at the files it leaves.
+
+    test_desktop.py PROGRAM [TEST...]
+"""
+
+import os
+import pathlib
+import struct
+import sys
+import tempfile
+import time
+import unittest
+
+from desktop import Desktop
+
+PROGRAM = sys.argv.pop(1)
+EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "examples"
+
+
+def text(value, width):
+    return value.encode("cp1252").ljust(width)
+
+
+def user_settings(name="Ida Lund", folder=""):
+    """The bytes of a complete user.usr."""
+    others = ["County Extension Service", "4 Court Square", "Alder Creek, XX 00000", "555-0100", "ida@extension.example"]
+    return b"".join(text(field, 50) for field in [name, *others, folder]) + b"\xff\xff"
+
+
+def wait_for_a_calm_second():
+    """The pause of the start-up never ends when it begins at second 58."""
+    while time.localtime().tm_sec >= 50:
+        time.sleep(0.2)
+
+
+class DesktopTest(unittest.TestCase):
+    def setUp(self):
+        self.temporary = tempfile.TemporaryDirectory()
+        self.addCleanup(self.temporary.cleanup)
+        self.folder = pathlib.Path(self.temporary.name)
+        self.settings = self.folder / "user.usr"
+        self.settings.write_bytes(user_settings(folder=str(self.folder)))
+
+    def program(self, *arguments):
+        wait_for_a_calm_second()
+        return Desktop([PROGRAM, "--program-dir", str(self.folder), *map(str, arguments)])
+
+    def test_a_session_with_a_center_pivot_test(self):
+        new, copy = self.folder / "new.cpd", self.folder / "copy.cpd"
+        with self.program() as desktop:
+            desktop.wait_for_text("Open or Create New Data File to Begin")
+            desktop.choose("File", "New Client")
+            desktop.find("Create New Data File - Center Pivot System")
+            desktop.type_into("File name:", "new\n")
+            desktop.wait_for_text("File: new.cpd")
+            record = new.read_bytes()
+            self.assertEqual(len(record), 9002)
+            self.assertIn(b"Choose Soil Type", record)
+
+            desktop.choose("File", "Save As (Current Information)")
+            desktop.find("Save Center Pivot Data As - Enter File Name")
+            desktop.type_into("File name:", f"{copy}\n")
+            desktop.wait_for_text("File: copy.cpd")
+            self.assertEqual(copy.read_bytes(), record)
+
+            desktop.choose("File", "Close Current Client")
+            desktop.wait_for_text("No File Open")
+
+            desktop.press("Open Existing Data File")
+            desktop.find("Open Center Pivot Data")
+            desktop.type_into("File name:", f"{new}\n")
+            desktop.wait_for_text("File: new.cpd")
+
+            desktop.keys("ctrl+q")
+            self.assertEqual(desktop.status(), 0)
+        self.assertEqual(new.read_bytes(), record)
+
+    def test_settings_and_soils_are_edited(self):
+        soils = self.folder / "soil.dat"
+        with self.program() as desktop:
+            desktop.choose("Window", "User Settings")
+            self.assertEqual(desktop.text_of("Company or Title:"), "County Extension Service")
+            desktop.type_into("Name:", "Ole Berg")
+            desktop.press("Save")
+            desktop.wait_until_gone("User Settings", "dialog")
+            self.assertEqual(self.settings.read_bytes(), user_settings("Ole Berg", str(self.folder)))
+
+            before = soils.read_bytes()
+            self.assertEqual(before[:28], text("Sand", 20) + struct.pack("<ff", 5, 5))
+            desktop.choose("Window", "Soil Intake Settings")
+            desktop.type_into("Soil Description, row 1", "Gravel")
+            desktop.keys("Tab")
+            desktop.type("a6.5")
+            desktop.press("Save")
+            desktop.wait_until_gone("Soil Intake Rates", "dialog")
+            self.assertEqual(soils.read_bytes(), text("Gravel", 20) + struct.pack("<ff", 6.5, 5) + before[28:])
+
+    def test_a_file_named_at_the_start_is_opened(self):
+        with self.program(EXAMPLES / "solid-set-1997.ssd") as desktop:
+            desktop.wait_for_text("File: solid-set-1997.ssd")
+            kind = desktop.find("Solid Set System", "radio button")
+            self.assertTrue(kind.get_state_set().contains(desktop.bus.StateType.CHECKED))
+
+    def test_a_file_that_is_missing_is_told(self):
+        with self.program(self.folder / "none.cpd") as desktop:
+            desktop.wait_for_text("The file none.cpd does not exist.")
+            desktop.press("OK")
+            desktop.wait_for_text("Open or Create New Data File to Begin")
+
+    def test_incomplete_settings_are_told_in_front_of_the_splash_window(self):
+        self.settings.unlink()
+        with self.program() as desktop:
+            desktop.find("User Settings Error", "alert")
+            self.assertTrue(desktop.is_there("Version 0.1.0", "label"), "the splash window is still shown")
+            desktop.press("OK")
+            desktop.wait_for_text("Open or Create New Data File to Begin")
+        self.assertEqual(self.settings.read_bytes(), b" " * 300 + text(str(self.folder), 50) + b"\0\0")
+
+    def test_settings_that_cannot_be_kept_end_the_program(self):
+        self.settings.unlink()
+        self.settings.mkdir()
+        with self.program() as desktop:
+            desktop.find("ORVEL", "alert")
+            desktop.keys("Return")
+            desktop.find("Run-time error '75':\n\nPath/File access error", "label")
+            desktop.press("OK")
+            self.assertEqual(desktop.status(), 1)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/ProgramState.h"
+#include "core/RecordFiles.h"
+#include "ui/AboutDialog.h"
+#include "ui/Desktop.h"
+#include "ui/SoilIntakeDialog.h"
+#include "ui/UserDataDialog.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <cstdio>
+
+// Takes a picture of every window: orvel_screenshots FOLDER.
+
+namespace {
+
+using namespace orvel;
+
+void FillSettings(const std::string& programDirectory) {
+    Program().programDirectory = programDirectory;
+    UserSettings settings;
+    settings.Name = "Ida Lund";
+    settings.Company = "County Extension Service";
+    settings.Address = "4 Court Square";
+    settings.CityStateZip = "Alder Creek, XX 00000";
+    settings.Phone = "555-0100";
+    settings.EMail = "ida@extension.example";
+    settings.DefaultDirectory = "/home/ida/tests";
+    SaveUserSettings(settings);
+}
+
+bool Take(QWidget& window, const QString& folder) {
+    window.show();
+    QApplication::processEvents();
+    const QString file = folder + "/" + window.objectName() + ".png";
+    if (!window.grab().save(file)) {
+        (void)std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.size() != 2) {
+        (void)std::fputs("orvel_screenshots FOLDER\n", stderr);
+        return 2;
+    }
+    const QTemporaryDir programDirectory;
+    FillSettings(programDirectory.path().toStdString());
+
+    ui::Desktop desktop;
+    ui::MainWindow mainWindow(desktop);
+    mainWindow.Load();
+    mainWindow.OpenGivenFile(ORVEL_EXAMPLES "/pivot-1978.cpd");
+    ui::SplashWindow splash([] {});
+    ui::AboutDialog about(nullptr);
+    ui::UserDataDialog userData(nullptr);
+    ui::SoilIntakeDialog soilIntake(nullptr);
+    for (QWidget* window : std::initializer_list<QWidget*>{&mainWindow, &splash, &about, &userData, &soilIntake}) {
+        if (!Take(*window, arguments.at(1))) {
+            return 1;
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/FormView.h"
+#include "core/Platform.h"
+#include "core/ProgramWindows.h"
+#include "tests/support/LogicTest.h"
+
+#include <deque>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace orvel::testing {
+
+using Lines = std::vector<std::string>;
+
+// The surroundings of a window's logic. What the logic does to them stands in one log, in order; what they
+// answer is planned before. They are strict: an answer that was not planned, or not fetched, and a line that
+// the test did not take fail it.
+class Surroundings : public MessageBoxService,
+                     public FileDialogService,
+                     public FolderBrowser,
+                     public KeySender,
+                     public ProgramWindows {
+public:
+    ~Surroundings() override;
+
+    std::deque<Reply> replies;
+    std::deque<std::filesystem::path> paths; // of file dialogs and the folder browser; empty: cancelled
+
+    void Note(const std::string& line) { log.push_back(line); }
+    // The log since the last call.
+    Lines Said() { return std::exchange(log, {}); }
+
+    // A box as its line in the log: "box [title] text (YesNo)"; CR shows as "|".
+    static std::string Line(const Message& message);
+    // A dialog as its line: "save [title] filter; ext; 0x2806; folder".
+    static std::string Line(const std::string& kind, const FileDialog& dialog);
+
+    Reply Show(const Message& message) override;
+    std::filesystem::path Open(const FileDialog& dialog) override;
+    std::filesystem::path Save(const FileDialog& dialog) override;
+    std::filesystem::path Browse(const std::string& title) override;
+    void Send(std::string_view keys) override { Note("keys " + std::string{keys}); }
+
+    void ShowSplash() override { Note("show frmSplash"); }
+    void UnloadSplash() override { Note("unload frmSplash"); }
+    void ShowMain() override { Note("show frmMain"); }
+    void ShowCenterPivotData() override { Note("show frmCenterPivotData"); }
+    void ShowSolidSetData() override { Note("show frmSolidSetData"); }
+    void ShowUserData() override { Note("show frmUserData"); }
+    void ShowSoilIntake() override { Note("show frmSoilIntake"); }
+    void ShowAbout() override { Note("show frmAbout"); }
+    void ShowReport() override { Note("show frmReport"); }
+    void ShowViewer(std::string_view what) override { Note("view " + std::string{what}); }
+    std::string BuildCenterPivotSummary() override;
+    std::string BuildSolidSetSummary() override;
+    void UnloadOthers() override { Note("unload others"); }
+    void EndProgram() override { Note("end"); }
+
+private:
+    std::filesystem::path NextPath();
+
+    Lines log;
+};
+
+// A form that keeps the texts of its controls.
+class FakeForm : public FormView {
+public:
+    explicit FakeForm(Surroundings& ofTest) : surroundings(ofTest) {}
+
+    std::map<std::string, std::string, std::less<>> texts;
+
+    [[nodiscard]] std::string Text(std::string_view control) const override;
+    void SetText(std::string_view control, const std::string& text) override;
+    void Unload() override { surroundings.Note("unload"); }
+
+private:
+    Surroundings& surroundings;
+};
+
+// Tests of a window's logic: the program at its start, the surroundings in place of the platform's services.
+class WindowTest : public LogicTest {
+protected:
+    WindowTest();
+
+    Surroundings surroundings;
+};
+
+} // namespace orvel::testing

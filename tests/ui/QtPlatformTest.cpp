@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/QtPlatform.h"
+
+#include "tests/support/TestFiles.h"
+#include "tests/ui/WidgetTest.h"
+#include "ui/TextEdge.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QAbstractButton>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+
+namespace orvel::ui {
+
+namespace {
+
+using testing::WhileModal;
+
+class QtServices : public testing::WidgetTest {};
+
+TEST_F(QtServices, AMessageBoxShowsItsTextAsItStands) {
+    QtMessageBox service;
+    WhileModal([&] { service.Show({"<b>50%</b>\r\ntwo\rthr\xE9" "e", "The title", Buttons::Ok, Icon::Critical}); },
+               [](QWidget& window) {
+                   auto& box = dynamic_cast<QMessageBox&>(window);
+                   EXPECT_EQ(box.text().toStdString(), "<b>50%</b>\ntwo\nthr\u00E9e");
+                   EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                   EXPECT_EQ(box.windowTitle(), "The title");
+                   EXPECT_EQ(box.icon(), QMessageBox::Critical);
+                   EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+                   QTest::keyClick(&box, Qt::Key_Return);
+               });
+}
+
+TEST_F(QtServices, AMessageBoxAnswersWithItsButton) {
+    struct Case {
+        Buttons buttons;
+        QMessageBox::StandardButton pressed; // NoButton: Escape
+        Reply reply;
+    };
+    QtMessageBox service;
+    for (const Case& each : {Case{Buttons::Ok, QMessageBox::Ok, Reply::Ok},
+                             {Buttons::Ok, QMessageBox::NoButton, Reply::Ok},
+                             {Buttons::YesNo, QMessageBox::Yes, Reply::Yes},
+                             {Buttons::YesNo, QMessageBox::No, Reply::No},
+                             {Buttons::YesNo, QMessageBox::NoButton, Reply::No},
+                             {Buttons::YesNoCancel, QMessageBox::Yes, Reply::Yes},
+                             {Buttons::YesNoCancel, QMessageBox::No, Reply::No},
+                             {Buttons::YesNoCancel, QMessageBox::Cancel, Reply::Cancel},
+                             {Buttons::YesNoCancel, QMessageBox::NoButton, Reply::Cancel}}) {
+        Reply reply = Reply::None;
+        WhileModal([&] { reply = service.Show({"Text", "Title", each.buttons, Icon::None}); },
+                   [&](QWidget& window) {
+                       auto& box = dynamic_cast<QMessageBox&>(window);
+                       EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+                       if (each.pressed == QMessageBox::NoButton) {
+                           QTest::keyClick(&box, Qt::Key_Escape);
+                       } else {
+                           box.button(each.pressed)->click();
+                       }
+                   });
+        EXPECT_EQ(reply, each.reply);
+    }
+}
+
+TEST_F(QtServices, AMessageBoxBelongsToTheWindowInFront) {
+    QWidget window;
+    ShowActive(window);
+    QtMessageBox service;
+    WhileModal([&] { service.Show({"Text", "Title", Buttons::Ok, Icon::None}); },
+               [&](QWidget& box) {
+                   EXPECT_EQ(box.parentWidget(), &window);
+                   box.close();
+               });
+}
+
+TEST_F(QtServices, KeysGoToTheControlThatHadTheFocusLast) {
+    QMainWindow window;
+    auto* box = new QLineEdit;
+    window.setCentralWidget(box);
+    window.menuBar()->addMenu("&Edit")->addAction("&Paste");
+    QtKeySender sender;
+    ShowActive(window);
+    box->setFocus();
+    QTest::keyClicks(box, "abc");
+    sender.Send("^Z");
+    EXPECT_EQ(box->text(), "");
+    QTest::keyClicks(box, "12");
+    box->selectAll();
+    sender.Send("^X");
+    EXPECT_EQ(box->text(), "");
+    QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    sender.Send("^V");
+    sender.Send("^V");
+    EXPECT_EQ(box->text(), "1212");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+}
+
+TEST_F(QtServices, KeysWithoutAnyControlGoNowhere) {
+    QtKeySender sender;
+    sender.Send("^Z");
+}
+
+TEST_F(QtServices, SettingsAreKeptByTheirKey) {
+    EXPECT_EQ(QtSettingsStore().Get("Settings", "MainLeft", "1000"), "1000");
+    QtSettingsStore().Save("Settings", "MainLeft", "12.5");
+    EXPECT_EQ(QtSettingsStore().Get("Settings", "MainLeft", "1000"), "12.5");
+    EXPECT_EQ(QtSettingsStore().Get("Settings", "MainTop", "1000"), "1000");
+}
+
+TEST_F(QtServices, TheClockTellsTheLocalTime) {
+    const QDateTime before = QDateTime::currentDateTime();
+    const DateTime now = QtClock().Now();
+    const QDateTime told(QDate(now.year, now.month, now.day), QTime(now.hour, now.minute, now.second));
+    EXPECT_LE(told, QDateTime::currentDateTime());
+    EXPECT_GE(told.addSecs(1), before);
+}
+
+TEST_F(QtServices, ThePumpHandlesEventsUntilTheProgramEnds) {
+    QtEventPump pump;
+    bool isHandled = false;
+    QTimer::singleShot(0, [&] { isHandled = true; });
+    EXPECT_TRUE(pump.ProcessEvents());
+    EXPECT_TRUE(isHandled);
+    pump.End();
+    EXPECT_FALSE(pump.ProcessEvents());
+}
+
+TEST_F(QtServices, TextsAndPathsSurviveTheEdge) {
+    EXPECT_EQ(ToQt("23\xB0 \x80"), QString("23\u00B0 \u20AC"));
+    EXPECT_EQ(FromQt(QString("23\u00B0 \u20AC \u0416")), "23\xB0 \x80 ?");
+    EXPECT_EQ(PathFromQt(PathToQt("/a/\u0416 b")), "/a/\u0416 b");
+}
+
+} // namespace
+
+} // namespace orvel::ui

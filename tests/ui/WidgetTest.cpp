@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "tests/ui/WidgetTest.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QMenuBar>
+#include <QTest>
+#include <QTimer>
+#include <map>
+#include <set>
+
+namespace orvel::testing {
+
+namespace {
+
+bool TakesFocus(const QWidget& control) {
+    return control.isVisible() && control.isEnabled() && (control.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+// The captions of what answers to Alt and a letter.
+QStringList Captions(const QWidget& window) {
+    QStringList captions;
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        captions << button->text();
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        if (label->buddy() != nullptr) {
+            captions << label->text();
+        }
+    }
+    for (const auto* frame : window.findChildren<QGroupBox*>()) {
+        captions << frame->title();
+    }
+    for (const auto* menus : window.findChildren<QMenuBar*>()) {
+        for (const QAction* menu : menus->actions()) {
+            captions << menu->text();
+        }
+    }
+    return captions;
+}
+
+std::string AccessibleName(QWidget& control) {
+    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&control);
+    return accessible == nullptr ? "" : accessible->text(QAccessible::Name).toStdString();
+}
+
+} // namespace
+
+void WidgetTest::ShowActive(QWidget& window) {
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+std::vector<std::string> WidgetTest::TabOrder(QWidget& window) {
+    std::vector<std::string> names;
+    std::set<const QWidget*> seen;
+    for (QWidget* control = window.nextInFocusChain(); seen.insert(control).second;
+         control = control->nextInFocusChain()) {
+        if (control != &window && control->window() == &window && TakesFocus(*control)) {
+            names.push_back(control->objectName().toStdString());
+        }
+    }
+    return names;
+}
+
+void WidgetTest::ExpectReachable(const QWidget& window) {
+    std::map<QString, QString> mnemonics;
+    for (const QString& caption : Captions(window)) {
+        const QKeySequence mnemonic = QKeySequence::mnemonic(caption);
+        if (!mnemonic.isEmpty()) {
+            const auto [other, isNew] = mnemonics.emplace(mnemonic.toString(), caption);
+            EXPECT_TRUE(isNew) << caption.toStdString() << " and " << other->second.toStdString();
+        }
+    }
+    std::set<std::string> names;
+    for (QWidget* control : window.findChildren<QWidget*>()) {
+        if (TakesFocus(*control)) {
+            const std::string name = AccessibleName(*control);
+            EXPECT_FALSE(name.empty()) << control->objectName().toStdString();
+            EXPECT_TRUE(names.insert(name).second) << name;
+        }
+    }
+}
+
+void WhileModal(const std::function<void()>& action, const std::function<void(QWidget& window)>& handler) {
+    bool isHandled = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (QWidget* window = QApplication::activeModalWidget(); window != nullptr && window->isVisible()) {
+            timer.stop();
+            isHandled = true;
+            handler(*window);
+        }
+    });
+    timer.start(0);
+    action();
+    EXPECT_TRUE(isHandled) << "no modal window came";
+}
+
+} // namespace orvel::testing

@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/Desktop.h"
+
+#include "centerpivot/CenterPivotSummary.h"
+#include "core/StartUp.h"
+#include "core/Version.h"
+#include "solidset/SolidSetSummary.h"
+#include "ui/AboutDialog.h"
+#include "ui/SoilIntakeDialog.h"
+#include "ui/UncaughtError.h"
+#include "ui/UserDataDialog.h"
+
+#include <QApplication>
+
+namespace orvel::ui {
+
+namespace {
+
+void SayMissing(const std::string& what) {
+    CurrentPlatform().messageBox->Show(
+        {what + " is not part of this version yet.", kProgramTitle, Buttons::Ok, Icon::Information});
+}
+
+} // namespace
+
+Desktop::Desktop() {
+    // The program ends when the main window closes, whichever window closes last.
+    QApplication::setQuitOnLastWindowClosed(false);
+    UsePlatform({&messageBox, &beeper, &clock, &fileDialogs, &folderBrowser, &keySender, &settingsStore,
+                 &eventPump});
+}
+
+Desktop::~Desktop() {
+    UsePlatform({});
+}
+
+int Desktop::Execute(const std::optional<std::filesystem::path>& file) {
+    bool isUp = false;
+    Run([&] {
+        isUp = StartUp(*this);
+        if (isUp && file) {
+            mainWindow->OpenGivenFile(*file);
+        }
+    });
+    return isUp ? QApplication::exec() : EXIT_SUCCESS;
+}
+
+void Desktop::ShowSplash() {
+    splash = std::make_unique<SplashWindow>([this] { eventPump.End(); });
+    splash->show();
+}
+
+void Desktop::UnloadSplash() {
+    splash.reset();
+}
+
+void Desktop::ShowMain() {
+    if (mainWindow == nullptr) {
+        mainWindow = std::make_unique<MainWindow>(*this);
+        mainWindow->Load();
+    }
+    mainWindow->show();
+    mainWindow->raise();
+    mainWindow->activateWindow();
+}
+
+void Desktop::ShowCenterPivotData() {
+    SayMissing("The data window");
+}
+
+void Desktop::ShowSolidSetData() {
+    SayMissing("The data window");
+}
+
+void Desktop::ShowUserData() {
+    UserDataDialog(WindowInFront()).exec();
+}
+
+void Desktop::ShowSoilIntake() {
+    SoilIntakeDialog(WindowInFront()).exec();
+}
+
+void Desktop::ShowAbout() {
+    AboutDialog(WindowInFront()).exec();
+}
+
+void Desktop::ShowReport() {
+    SayMissing("The report window");
+}
+
+void Desktop::ShowViewer(std::string_view /*what*/) {
+    SayMissing("The viewer");
+}
+
+std::string Desktop::BuildCenterPivotSummary() {
+    return orvel::BuildCenterPivotSummary();
+}
+
+std::string Desktop::BuildSolidSetSummary() {
+    return orvel::BuildSolidSetSummary();
+}
+
+void Desktop::UnloadOthers() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window != mainWindow.get()) {
+            window->close();
+        }
+    }
+}
+
+void Desktop::EndProgram() {
+    mainWindow->close();
+}
+
+} // namespace orvel::ui

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/ProgramWindows.h"
+#include "ui/FileDialogs.h"
+#include "ui/MainWindow.h"
+#include "ui/QtPlatform.h"
+#include "ui/SplashWindow.h"
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+
+namespace orvel::ui {
+
+// The desktop program: its services, its windows, and the way from one to the other. There must be one
+// QApplication, and it must outlive it.
+class Desktop : public ProgramWindows {
+public:
+    Desktop();
+    ~Desktop() override;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    // Starts up, opens the file if one is given, and runs until the main window is closed. Returns the
+    // program's status.
+    int Execute(const std::optional<std::filesystem::path>& file);
+
+    void ShowSplash() override;
+    void UnloadSplash() override;
+    void ShowMain() override;
+    void ShowCenterPivotData() override;
+    void ShowSolidSetData() override;
+    void ShowUserData() override;
+    void ShowSoilIntake() override;
+    void ShowAbout() override;
+    void ShowReport() override;
+    void ShowViewer(std::string_view what) override;
+    std::string BuildCenterPivotSummary() override;
+    std::string BuildSolidSetSummary() override;
+    void UnloadOthers() override;
+    void EndProgram() override;
+
+private:
+    QtMessageBox messageBox;
+    QtBeeper beeper;
+    QtClock clock;
+    QtFileDialogs fileDialogs;
+    QtFolderBrowser folderBrowser;
+    QtKeySender keySender;
+    QtSettingsStore settingsStore;
+    QtEventPump eventPump;
+
+    std::unique_ptr<SplashWindow> splash;
+    std::unique_ptr<MainWindow> mainWindow;
+};
+
+} // namespace orvel::ui

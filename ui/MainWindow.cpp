@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/MainWindow.h"
+
+#include "core/Version.h"
+#include "ui/TextEdge.h"
+#include "ui/UncaughtError.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace orvel::ui {
+
+MainWindow::MainWindow(ProgramWindows& windows) : logic(*this, windows) {
+    setObjectName("frmMain");
+    setWindowTitle(kProgramTitle);
+    AddMenus();
+    setCentralWidget(NewSteps());
+    status = new QLabel;
+    status->setObjectName("sbStatusBar");
+    status->setTextFormat(Qt::PlainText);
+    statusBar()->addWidget(status, 1);
+}
+
+void MainWindow::Load() {
+    logic.Form_Load();
+}
+
+void MainWindow::OpenGivenFile(const std::filesystem::path& path) {
+    logic.OpenGivenFile(path);
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) {
+        Run([this] { logic.Form_Activate(); });
+    }
+    return QMainWindow::event(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    Run([this] { logic.Form_Unload(); });
+    event->accept();
+}
+
+void MainWindow::AddMenus() {
+    AddMenu("mnuFile", "&File",
+            {
+                {"mnuFileNew", "&New Client", QKeySequence::New, &frmMain::mnuFileNew_Click},
+                {"mnuFileOpen", "&Open Existing Client", QKeySequence::Open, &frmMain::mnuFileOpen_Click},
+                {"mnuFileClose", "&Close Current Client", QKeySequence::Close, &frmMain::mnuFileClose_Click},
+                {},
+                {"mnuFileSave", "&Save Current Information", QKeySequence::Save, &frmMain::mnuFileSave_Click},
+                {"mnuFileSaveAs", "Save &As (Current Information)", QKeySequence("Ctrl+Shift+S"),
+                 &frmMain::mnuFileSaveAs_Click},
+                {},
+                {"mnuExportSummary", "&Export Summary", QKeySequence("Ctrl+E"),
+                 &frmMain::mnuExportSummary_Click},
+                {},
+                {"mnuDataPrint", "&Print Data Summary", QKeySequence::Print, &frmMain::mnuDataPrint_Click},
+                {},
+                {"mnuFileExit", "E&xit", QKeySequence("Ctrl+Q"), &frmMain::mnuFileExit_Click},
+            });
+    AddMenu("mnuEdit", "&Edit",
+            {
+                {"mnuEditUndo", "&Undo", QKeySequence::Undo, &frmMain::mnuEditUndo_Click},
+                {},
+                {"mnuEditCut", "Cu&t", QKeySequence::Cut, &frmMain::mnuEditCut_Click},
+                {"mnuEditCopy", "&Copy", QKeySequence::Copy, &frmMain::mnuEditCopy_Click},
+                {"mnuEditPaste", "&Paste", QKeySequence::Paste, &frmMain::mnuEditPaste_Click},
+                {"mnuEditPasteSpecial", "Paste &Special...", {}, &frmMain::mnuEditPasteSpecial_Click},
+            });
+    AddMenu("mnuWindow", "&Window",
+            {
+                {"mnuDataEntry", "&Data Entry", QKeySequence("Ctrl+D"), &frmMain::mnuDataEntry_Click},
+                {"mnuViewReport", "&View Report", QKeySequence("Ctrl+R"), &frmMain::mnuViewReport_Click},
+                {"mnuSoilIntake", "&Soil Intake Settings", {}, &frmMain::mnuSoilIntake_Click},
+                {"mnuUserSettings", "&User Settings", {}, &frmMain::mnuUserSettings_Click},
+            });
+    AddMenu("mnuHelp", "&Help",
+            {
+                {"mnuInstructions", "&Instructions", QKeySequence::HelpContents,
+                 &frmMain::mnuInstructions_Click},
+                {},
+                {"mnuHelpAbout", "&About ORVEL", {}, &frmMain::mnuHelpAbout_Click},
+            });
+}
+
+void MainWindow::AddMenu(const char* name, const char* caption, const std::vector<MenuItem>& items) {
+    QMenu* menu = menuBar()->addMenu(caption);
+    menu->setObjectName(name);
+    for (const MenuItem& item : items) {
+        if (item.name == nullptr) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* action = menu->addAction(item.caption, item.shortcut);
+        action->setObjectName(item.name);
+        // The desktop's own ideas of where an entry belongs are not asked.
+        action->setMenuRole(QAction::NoRole);
+        connect(action, &QAction::triggered, this,
+                [this, handler = item.handler] { Run([this, handler] { (logic.*handler)(); }); });
+    }
+}
+
+QWidget* MainWindow::NewSteps() {
+    centerPivot =
+        NewOption("OptBtnCenterPivot", "&Center Pivot System", &frmMain::OptBtnCenterPivot_Click);
+    solidSet = NewOption("OptBtnSolidSet", "&Solid Set System", &frmMain::OptBtnSolidSet_Click);
+    auto* steps = new QWidget;
+    auto* layout = new QVBoxLayout(steps);
+    for (QWidget* step : {
+             NewStep("Frame2", "Step 1: Choose Type File to Work With", {centerPivot, solidSet}),
+             NewStep("Frame3", "Step 2: Enter Data or Edit Existing Data (if needed)",
+                     {NewButton("cmdBtnEditExisting", "Edit &Data", &frmMain::cmdBtnEditExisting_Click)}),
+             NewStep("Frame1", "Step 3: Create New Data or Open Existing Data File",
+                     {NewButton("cmdBtnNewDataFile", "&New Data File", &frmMain::cmdBtnNewDataFile_Click),
+                      NewButton("cmdBtnOpenFile", "&Open Existing Data File",
+                                &frmMain::cmdBtnOpenFile_Click)}),
+             NewStep("Frame4", "Step 4: Create Report",
+                     {NewButton("cmdBtnGenerateReport", "&Generate Report",
+                                &frmMain::cmdBtnGenerateReport_Click)}),
+         }) {
+        layout->addWidget(step);
+    }
+    layout->addStretch();
+    return steps;
+}
+
+QWidget* MainWindow::NewStep(const char* name, const char* caption, const std::vector<QWidget*>& controls) {
+    auto* frame = new QGroupBox(caption);
+    frame->setObjectName(name);
+    auto* layout = new QHBoxLayout(frame);
+    for (QWidget* control : controls) {
+        layout->addWidget(control);
+    }
+    return frame;
+}
+
+QRadioButton* MainWindow::NewOption(const char* name, const char* caption, Handler handler) {
+    auto* option = new QRadioButton(caption);
+    option->setObjectName(name);
+    connect(option, &QRadioButton::clicked, this,
+            [this, handler] { Run([this, handler] { (logic.*handler)(); }); });
+    return option;
+}
+
+QWidget* MainWindow::NewButton(const char* name, const char* caption, Handler handler) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(name);
+    connect(button, &QPushButton::clicked, this,
+            [this, handler] { Run([this, handler] { (logic.*handler)(); }); });
+    return button;
+}
+
+void MainWindow::SetStatusText(const std::string& text) {
+    status->setText(ToQt(text));
+}
+
+} // namespace orvel::ui

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/NumericKeyFilter.h"
+
+#include "ui/TextEdge.h"
+#include "ui/UncaughtError.h"
+
+#include <QKeyEvent>
+
+namespace orvel::ui {
+
+namespace {
+
+class KeyFilter : public QObject {
+public:
+    KeyFilter(QLineEdit* box, int (*filterOfLogic)(int)) : QObject(box), filter(filterOfLogic) {}
+
+    bool eventFilter(QObject* /*box*/, QEvent* event) override {
+        if (event->type() != QEvent::KeyPress) {
+            return false;
+        }
+        const auto* press = static_cast<QKeyEvent*>(event);
+        const bool isShortcut = (press->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+        const QString text = press->text();
+        if (isShortcut || text.isEmpty() || !text.at(0).isPrint()) {
+            return false;
+        }
+        int passed = 0;
+        Run([&] { passed = filter(static_cast<unsigned char>(FromQt(text).front())); });
+        return passed == 0;
+    }
+
+private:
+    int (*filter)(int);
+};
+
+} // namespace
+
+void FilterKeys(QLineEdit* box, int (*filter)(int key)) {
+    // Composed characters come without key events.
+    box->setAttribute(Qt::WA_InputMethodEnabled, false);
+    box->installEventFilter(new KeyFilter(box, filter));
+}
+
+} // namespace orvel::ui

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/QtPlatform.h"
+
+#include "core/Version.h"
+#include "ui/TextEdge.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSettings>
+#include <QThread>
+
+namespace orvel::ui {
+
+namespace {
+
+QMessageBox::Icon IconOf(Icon icon) {
+    switch (icon) {
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Warning:
+        return QMessageBox::Warning;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
+Reply ReplyOf(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return Reply::Yes;
+    case QMessageBox::No:
+        return Reply::No;
+    case QMessageBox::Cancel:
+        return Reply::Cancel;
+    default:
+        return Reply::Ok;
+    }
+}
+
+// Line ends of the logic are CR or CR LF.
+QString WithLineBreaks(QString text) {
+    return text.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+QSettings Store() {
+    return {QSettings::NativeFormat, QSettings::UserScope, kProgramTitle, kProgramTitle};
+}
+
+QString StoreKey(const std::string& section, const std::string& key) {
+    return ToQt(section) + "/" + ToQt(key);
+}
+
+} // namespace
+
+QWidget* WindowInFront() {
+    if (QWidget* window = QApplication::activeModalWidget()) {
+        return window;
+    }
+    if (QWidget* window = QApplication::activeWindow()) {
+        return window;
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+Reply QtMessageBox::Show(const Message& message) {
+    QMessageBox box(IconOf(message.icon), ToQt(message.title), WithLineBreaks(ToQt(message.text)),
+                    ButtonsOf(message.buttons), WindowInFront());
+    box.setTextFormat(Qt::PlainText);
+    return ReplyOf(box.exec());
+}
+
+void QtBeeper::Beep() {
+    QApplication::beep();
+}
+
+DateTime QtClock::Now() {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+std::filesystem::path QtFolderBrowser::Browse(const std::string& title) {
+    QFileDialog dialog(WindowInFront(), ToQt(title));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return dialog.exec() == QDialog::Accepted ? PathFromQt(dialog.selectedFiles().value(0))
+                                              : std::filesystem::path{};
+}
+
+QtKeySender::QtKeySender() {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        const bool isMenu = qobject_cast<QMenu*>(now) != nullptr || qobject_cast<QMenuBar*>(now) != nullptr;
+        if (now != nullptr && !isMenu) {
+            lastControl = now;
+        }
+    });
+}
+
+void QtKeySender::Send(std::string_view keys) {
+    if (lastControl == nullptr) {
+        return;
+    }
+    const bool isControl = keys.starts_with('^');
+    const QChar letter = QLatin1Char(keys.back());
+    const Qt::KeyboardModifiers modifiers = isControl ? Qt::ControlModifier : Qt::NoModifier;
+    const QString text = isControl ? QString{} : QString(letter);
+    const int key = letter.toUpper().unicode();
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(lastControl, &press);
+    if (lastControl != nullptr) {
+        QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+        QCoreApplication::sendEvent(lastControl, &release);
+    }
+}
+
+std::string QtSettingsStore::Get(const std::string& section, const std::string& key,
+                                 const std::string& fallback) {
+    return FromQt(Store().value(StoreKey(section, key), ToQt(fallback)).toString());
+}
+
+void QtSettingsStore::Save(const std::string& section, const std::string& key, const std::string& value) {
+    Store().setValue(StoreKey(section, key), ToQt(value));
+}
+
+bool QtEventPump::ProcessEvents() {
+    constexpr unsigned long kMilliseconds = 10;
+    QCoreApplication::processEvents();
+    // The caller asks again and again: leave the processor to others meanwhile.
+    QThread::msleep(kMilliseconds);
+    return !isEnding;
+}
+
+} // namespace orvel::ui

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "settings/frmSoilIntake.h"
+#include "ui/Form.h"
+
+#include <QDialog>
+#include <QLayout>
+
+namespace orvel::ui {
+
+class SoilIntakeDialog : public QDialog, private Form {
+public:
+    explicit SoilIntakeDialog(QWidget* parent);
+
+    // The title bar and Escape.
+    void reject() override;
+
+private:
+    QLayout* NewTable();
+    QLayout* NewButtons();
+    void Unload() override { accept(); }
+
+    frmSoilIntake logic{*this};
+};
+
+} // namespace orvel::ui

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/SplashWindow.h"
+
+#include "core/Version.h"
+#include "ui/Logo.h"
+
+#include <QCloseEvent>
+#include <QVBoxLayout>
+
+namespace orvel::ui {
+
+SplashWindow::SplashWindow(std::function<void()> onClose)
+    : QWidget(nullptr, Qt::SplashScreen), Form(static_cast<const QWidget&>(*this)),
+      whenClosed(std::move(onClose)) {
+    constexpr int kLogoSize = 128;
+    constexpr int kMargin = 40;
+    setObjectName("frmSplash");
+    setWindowTitle(kProgramTitle);
+    auto* logo = NewLogo(kLogoSize);
+    QLabel* title = NewTitle();
+    QLabel* version = NewLabel("lblVersion");
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    for (QLabel* label : {logo, title, version}) {
+        layout->addWidget(label, 0, Qt::AlignHCenter);
+    }
+    logic.Form_Load();
+}
+
+void SplashWindow::closeEvent(QCloseEvent* event) {
+    whenClosed();
+    event->accept();
+}
+
+void SplashWindow::mousePressEvent(QMouseEvent* /*event*/) {
+    logic.imgLogo_Click();
+}
+
+} // namespace orvel::ui

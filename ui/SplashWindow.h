@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/frmSplash.h"
+#include "ui/Form.h"
+
+#include <QWidget>
+#include <functional>
+
+namespace orvel::ui {
+
+// Shown while the program starts, above no other window. Closing it calls `onClose`.
+class SplashWindow : public QWidget, private Form {
+public:
+    explicit SplashWindow(std::function<void()> onClose);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void Unload() override { hide(); }
+
+    frmSplash logic{*this};
+    std::function<void()> whenClosed;
+};
+
+} // namespace orvel::ui

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/TextEdge.h"
+
+#include "core/CodePage.h"
+
+#include <QFile>
+
+namespace orvel::ui {
+
+QString ToQt(std::string_view text) {
+    return QString::fromStdString(ToUtf8(text));
+}
+
+std::string FromQt(const QString& text) {
+    return FromUtf8(text.toStdString());
+}
+
+QString PathToQt(const std::filesystem::path& path) {
+    return QFile::decodeName(path.c_str());
+}
+
+std::filesystem::path PathFromQt(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+} // namespace orvel::ui

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/UncaughtError.h"
+
+#include "core/Platform.h"
+#include "core/Version.h"
+
+#include <cstdlib>
+#include <string>
+
+namespace orvel::ui {
+
+void EndByError(const RunTimeError& error) {
+    const std::string text =
+        "Run-time error '" + std::to_string(error.Number()) + "':\r\r" + error.Description();
+    CurrentPlatform().messageBox->Show({text, kProgramTitle, Buttons::Ok, Icon::Critical});
+    // Windows and event loops may be nested here: nothing more is to run.
+    std::_Exit(EXIT_FAILURE);
+}
+
+} // namespace orvel::ui

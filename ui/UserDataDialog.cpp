@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/UserDataDialog.h"
+
+#include "ui/UncaughtError.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <array>
+
+namespace orvel::ui {
+
+namespace {
+
+// In the order of frmUserData::kTextBoxes.
+constexpr std::array<const char*, frmUserData::kTextBoxes.size()> kLabels = {
+    "&Name:",      "C&ompany or Title:", "&Address:", "City, State, &Zip:",
+    "&Telephone:", "&E-Mail:",           "&Default Directory:",
+};
+
+} // namespace
+
+UserDataDialog::UserDataDialog(QWidget* parent)
+    : QDialog(parent), Form(static_cast<const QWidget&>(*this)) {
+    constexpr int kBoxWidth = 380;
+    setObjectName("frmUserData");
+    setWindowTitle("User Settings");
+
+    auto* browse = new QPushButton("&Browse...");
+    browse->setObjectName("cmdBtnBrowse");
+    browse->setAutoDefault(false);
+    connect(browse, &QPushButton::clicked, this, [this] { Run([this] { logic.cmdBtnBrowse_Click(); }); });
+
+    auto* fields = new QFormLayout;
+    for (std::size_t i = 0; i < kLabels.size(); ++i) {
+        const QString label = kLabels.at(i);
+        QLineEdit* box = NewTextBox(std::string{frmUserData::kTextBoxes.at(i).control}, QString(label).remove('&'));
+        box->setMinimumWidth(kBoxWidth);
+        if (i + 1 < kLabels.size()) {
+            fields->addRow(label, box);
+            continue;
+        }
+        auto* row = new QHBoxLayout;
+        row->addWidget(box);
+        row->addWidget(browse);
+        auto* buddy = new QLabel(label);
+        buddy->setBuddy(box);
+        fields->addRow(buddy, row);
+    }
+
+    auto* save = new QPushButton("&Save");
+    save->setObjectName("cmdBtnSave");
+    save->setDefault(true);
+    connect(save, &QPushButton::clicked, this, [this] { Run([this] { logic.cmdBtnSave_Click(); }); });
+    auto* cancel = new QPushButton("&Cancel");
+    cancel->setObjectName("cmdBtnCancel");
+    connect(cancel, &QPushButton::clicked, this, &UserDataDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(save);
+    buttons->addWidget(cancel);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(fields);
+    layout->addStretch();
+    layout->addLayout(buttons);
+    logic.Form_Load();
+}
+
+void UserDataDialog::reject() {
+    Run([this] { logic.cmdBtnCancel_Click(); });
+}
+
+} // namespace orvel::ui
