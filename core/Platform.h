@@ -65,8 +65,8 @@ inline constexpr unsigned kSaveDialogFlags =
 // What a dialog for opening or saving is asked for.
 struct FileDialog {
     std::string title;
-    std::string filter;           // "Text Files (*.txt)|*.txt": what is shown, "|", the pattern
-    std::string defaultExtension; // added to a typed name that has no extension at all
+    std::string filter;                  // "Text Files (*.txt)|*.txt": what is shown, "|", the pattern
+    std::string defaultExtension;        // added to a typed name that has no extension at all
     std::filesystem::path initialFolder; // empty: where the dialog likes
     unsigned flags = 0;                  // of DialogFlag
 };

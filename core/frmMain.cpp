@@ -208,8 +208,7 @@ void frmMain::cmdBtnNewDataFile_Click() {
 }
 
 void frmMain::cmdBtnOpenFile_Click() {
-    if (!CurrentFile().empty() &&
-        Ask("Close current file and open a new file?", "Open File") != Reply::Yes) {
+    if (!CurrentFile().empty() && Ask("Close current file and open a new file?", "Open File") != Reply::Yes) {
         return;
     }
     mnuFileClose_Click();

@@ -63,8 +63,8 @@ public:
     void cmdBtnOpenFile_Click();
     void cmdBtnGenerateReport_Click();
 
-    // Opens the file that the program was started with, as Open does; its extension says the kind. A file that
-    // is none or of neither kind draws a message.
+    // Opens the file that the program was started with, as Open does; its extension says the kind. A file
+    // that is none or of neither kind draws a message.
     void OpenGivenFile(const std::filesystem::path& path);
 
 private:

@@ -10,8 +10,8 @@
 
 namespace orvel {
 
-// The window of the user settings. It works on the program's record directly: what was typed stays there until
-// the program ends, also where the file is not written.
+// The window of the user settings. It works on the program's record directly: what was typed stays there
+// until the program ends, also where the file is not written.
 class frmUserData {
 public:
     struct TextBox {

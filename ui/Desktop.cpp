@@ -27,8 +27,8 @@ void SayMissing(const std::string& what) {
 Desktop::Desktop() {
     // The program ends when the main window closes, whichever window closes last.
     QApplication::setQuitOnLastWindowClosed(false);
-    UsePlatform({&messageBox, &beeper, &clock, &fileDialogs, &folderBrowser, &keySender, &settingsStore,
-                 &eventPump});
+    UsePlatform(
+        {&messageBox, &beeper, &clock, &fileDialogs, &folderBrowser, &keySender, &settingsStore, &eventPump});
 }
 
 Desktop::~Desktop() {

@@ -3,6 +3,10 @@
 #include "ui/Form.h"
 
 #include "ui/TextEdge.h"
+#include "ui/UncaughtError.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
 
 namespace orvel::ui {
 
@@ -40,6 +44,23 @@ QLineEdit* NewTextBox(const std::string& name, const QString& accessibleName) {
     box->setObjectName(QString::fromStdString(name));
     box->setAccessibleName(accessibleName);
     return box;
+}
+
+QLayout* NewSaveAndCancel(QDialog& dialog, const std::function<void()>& save) {
+    constexpr int kGapAbove = 12;
+    auto* saveButton = new QPushButton("&Save");
+    saveButton->setObjectName("cmdBtnSave");
+    saveButton->setDefault(true);
+    QObject::connect(saveButton, &QPushButton::clicked, &dialog, [save] { Run(save); });
+    auto* cancelButton = new QPushButton("&Cancel");
+    cancelButton->setObjectName("cmdBtnCancel");
+    QObject::connect(cancelButton, &QPushButton::clicked, &dialog, &QDialog::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->setContentsMargins(0, kGapAbove, 0, 0);
+    buttons->addStretch();
+    buttons->addWidget(saveButton);
+    buttons->addWidget(cancelButton);
+    return buttons;
 }
 
 } // namespace orvel::ui

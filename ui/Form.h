@@ -4,10 +4,13 @@
 
 #include "core/FormView.h"
 
+#include <QDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QString>
 #include <QWidget>
+#include <functional>
 
 namespace orvel::ui {
 
@@ -27,5 +30,9 @@ private:
 // Controls with a name for the program and one for screen readers; a label is a buddy's.
 [[nodiscard]] QLabel* NewLabel(const char* name);
 [[nodiscard]] QLineEdit* NewTextBox(const std::string& name, const QString& accessibleName);
+
+// What the entry windows end with: "Save" (cmdBtnSave, the default button) runs `save`, "Cancel"
+// (cmdBtnCancel) rejects the dialog.
+[[nodiscard]] QLayout* NewSaveAndCancel(QDialog& dialog, const std::function<void()>& save);
 
 } // namespace orvel::ui

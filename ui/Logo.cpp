@@ -6,9 +6,16 @@
 
 #include <QGuiApplication>
 
+// The linker leaves out the resources of a static library that nobody names. The macro wants no namespace
+// around it.
+static void NameResources() {
+    Q_INIT_RESOURCE(orvel);
+}
+
 namespace orvel::ui {
 
 QIcon ProgramIcon() {
+    NameResources();
     return QIcon(":/orvel.svg");
 }
 

@@ -6,9 +6,10 @@
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
@@ -45,26 +46,27 @@ bool MainWindow::event(QEvent* event) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     Run([this] { logic.Form_Unload(); });
     event->accept();
+    QApplication::exit();
 }
 
 void MainWindow::AddMenus() {
-    AddMenu("mnuFile", "&File",
-            {
-                {"mnuFileNew", "&New Client", QKeySequence::New, &frmMain::mnuFileNew_Click},
-                {"mnuFileOpen", "&Open Existing Client", QKeySequence::Open, &frmMain::mnuFileOpen_Click},
-                {"mnuFileClose", "&Close Current Client", QKeySequence::Close, &frmMain::mnuFileClose_Click},
-                {},
-                {"mnuFileSave", "&Save Current Information", QKeySequence::Save, &frmMain::mnuFileSave_Click},
-                {"mnuFileSaveAs", "Save &As (Current Information)", QKeySequence("Ctrl+Shift+S"),
-                 &frmMain::mnuFileSaveAs_Click},
-                {},
-                {"mnuExportSummary", "&Export Summary", QKeySequence("Ctrl+E"),
-                 &frmMain::mnuExportSummary_Click},
-                {},
-                {"mnuDataPrint", "&Print Data Summary", QKeySequence::Print, &frmMain::mnuDataPrint_Click},
-                {},
-                {"mnuFileExit", "E&xit", QKeySequence("Ctrl+Q"), &frmMain::mnuFileExit_Click},
-            });
+    AddMenu(
+        "mnuFile", "&File",
+        {
+            {"mnuFileNew", "&New Client", QKeySequence::New, &frmMain::mnuFileNew_Click},
+            {"mnuFileOpen", "&Open Existing Client", QKeySequence::Open, &frmMain::mnuFileOpen_Click},
+            {"mnuFileClose", "&Close Current Client", QKeySequence("Ctrl+W"), &frmMain::mnuFileClose_Click},
+            {},
+            {"mnuFileSave", "&Save Current Information", QKeySequence::Save, &frmMain::mnuFileSave_Click},
+            {"mnuFileSaveAs", "Save &As (Current Information)", QKeySequence("Ctrl+Shift+S"),
+             &frmMain::mnuFileSaveAs_Click},
+            {},
+            {"mnuExportSummary", "&Export Summary", QKeySequence("Ctrl+E"), &frmMain::mnuExportSummary_Click},
+            {},
+            {"mnuDataPrint", "&Print Data Summary", QKeySequence::Print, &frmMain::mnuDataPrint_Click},
+            {},
+            {"mnuFileExit", "E&xit", QKeySequence("Ctrl+Q"), &frmMain::mnuFileExit_Click},
+        });
     AddMenu("mnuEdit", "&Edit",
             {
                 {"mnuEditUndo", "&Undo", QKeySequence::Undo, &frmMain::mnuEditUndo_Click},
@@ -81,13 +83,13 @@ void MainWindow::AddMenus() {
                 {"mnuSoilIntake", "&Soil Intake Settings", {}, &frmMain::mnuSoilIntake_Click},
                 {"mnuUserSettings", "&User Settings", {}, &frmMain::mnuUserSettings_Click},
             });
-    AddMenu("mnuHelp", "&Help",
-            {
-                {"mnuInstructions", "&Instructions", QKeySequence::HelpContents,
-                 &frmMain::mnuInstructions_Click},
-                {},
-                {"mnuHelpAbout", "&About ORVEL", {}, &frmMain::mnuHelpAbout_Click},
-            });
+    AddMenu(
+        "mnuHelp", "&Help",
+        {
+            {"mnuInstructions", "&Instructions", QKeySequence::HelpContents, &frmMain::mnuInstructions_Click},
+            {},
+            {"mnuHelpAbout", "&About ORVEL", {}, &frmMain::mnuHelpAbout_Click},
+        });
 }
 
 void MainWindow::AddMenu(const char* name, const char* caption, const std::vector<MenuItem>& items) {
@@ -108,19 +110,22 @@ void MainWindow::AddMenu(const char* name, const char* caption, const std::vecto
 }
 
 QWidget* MainWindow::NewSteps() {
-    centerPivot =
-        NewOption("OptBtnCenterPivot", "&Center Pivot System", &frmMain::OptBtnCenterPivot_Click);
+    centerPivot = NewOption("OptBtnCenterPivot", "&Center Pivot System", &frmMain::OptBtnCenterPivot_Click);
     solidSet = NewOption("OptBtnSolidSet", "&Solid Set System", &frmMain::OptBtnSolidSet_Click);
+    constexpr int kMargin = 16;
+    constexpr int kGap = 12;
     auto* steps = new QWidget;
     auto* layout = new QVBoxLayout(steps);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kGap);
     for (QWidget* step : {
              NewStep("Frame2", "Step 1: Choose Type File to Work With", {centerPivot, solidSet}),
              NewStep("Frame3", "Step 2: Enter Data or Edit Existing Data (if needed)",
                      {NewButton("cmdBtnEditExisting", "Edit &Data", &frmMain::cmdBtnEditExisting_Click)}),
-             NewStep("Frame1", "Step 3: Create New Data or Open Existing Data File",
-                     {NewButton("cmdBtnNewDataFile", "&New Data File", &frmMain::cmdBtnNewDataFile_Click),
-                      NewButton("cmdBtnOpenFile", "&Open Existing Data File",
-                                &frmMain::cmdBtnOpenFile_Click)}),
+             NewStep(
+                 "Frame1", "Step 3: Create New Data or Open Existing Data File",
+                 {NewButton("cmdBtnNewDataFile", "&New Data File", &frmMain::cmdBtnNewDataFile_Click),
+                  NewButton("cmdBtnOpenFile", "&Open Existing Data File", &frmMain::cmdBtnOpenFile_Click)}),
              NewStep("Frame4", "Step 4: Create Report",
                      {NewButton("cmdBtnGenerateReport", "&Generate Report",
                                 &frmMain::cmdBtnGenerateReport_Click)}),
@@ -134,9 +139,22 @@ QWidget* MainWindow::NewSteps() {
 QWidget* MainWindow::NewStep(const char* name, const char* caption, const std::vector<QWidget*>& controls) {
     auto* frame = new QGroupBox(caption);
     frame->setObjectName(name);
-    auto* layout = new QHBoxLayout(frame);
+    // All frames have the same two columns.
+    constexpr int kColumns = 2;
+    constexpr int kColumnWidth = 200;
+    constexpr int kMargin = 12;
+    auto* layout = new QGridLayout(frame);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    for (int column = 0; column < kColumns; ++column) {
+        layout->setColumnStretch(column, 1);
+        layout->setColumnMinimumWidth(column, kColumnWidth);
+    }
+    int column = 0;
     for (QWidget* control : controls) {
-        layout->addWidget(control);
+        layout->addWidget(control, 0, column++);
+    }
+    if (column < kColumns) {
+        layout->addItem(new QSpacerItem(0, 0), 0, column);
     }
     return frame;
 }
@@ -144,6 +162,8 @@ QWidget* MainWindow::NewStep(const char* name, const char* caption, const std::v
 QRadioButton* MainWindow::NewOption(const char* name, const char* caption, Handler handler) {
     auto* option = new QRadioButton(caption);
     option->setObjectName(name);
+    // No wider than its caption, so that a click anywhere in it counts.
+    option->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     connect(option, &QRadioButton::clicked, this,
             [this, handler] { Run([this, handler] { (logic.*handler)(); }); });
     return option;

@@ -7,7 +7,6 @@
 #include "ui/UncaughtError.h"
 
 #include <QGridLayout>
-#include <QPushButton>
 
 namespace orvel::ui {
 
@@ -31,7 +30,7 @@ SoilIntakeDialog::SoilIntakeDialog(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(NewTable());
     layout->addStretch();
-    layout->addLayout(NewButtons());
+    layout->addLayout(NewSaveAndCancel(*this, [this] { logic.cmdBtnSave_Click(); }));
     logic.Form_Load();
 }
 
@@ -44,8 +43,8 @@ QLayout* SoilIntakeDialog::NewTable() {
     auto* table = new QGridLayout;
     table->addWidget(new QLabel("Soil Description"), 0, 0, 2, 1, Qt::AlignBottom);
     table->addWidget(new QLabel("Intake Rates"), 0, 1, 1, 2, Qt::AlignHCenter);
-    table->addWidget(new QLabel("Minimum"), 1, 1);
-    table->addWidget(new QLabel("Maximum"), 1, 2);
+    table->addWidget(new QLabel("Minimum"), 1, 1, Qt::AlignRight);
+    table->addWidget(new QLabel("Maximum"), 1, 2, Qt::AlignRight);
     for (std::size_t row = 1; row <= kSoilRows; ++row) {
         const int line = static_cast<int>(row) + 1;
         const QString which = QString(", row %1").arg(row);
@@ -58,21 +57,6 @@ QLayout* SoilIntakeDialog::NewTable() {
         table->addWidget(NewRateBox(frmSoilIntake::MaxBox(row), "Maximum" + which), line, 2);
     }
     return table;
-}
-
-QLayout* SoilIntakeDialog::NewButtons() {
-    auto* save = new QPushButton("&Save");
-    save->setObjectName("cmdBtnSave");
-    save->setDefault(true);
-    connect(save, &QPushButton::clicked, this, [this] { Run([this] { logic.cmdBtnSave_Click(); }); });
-    auto* cancel = new QPushButton("&Cancel");
-    cancel->setObjectName("cmdBtnCancel");
-    connect(cancel, &QPushButton::clicked, this, &SoilIntakeDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(save);
-    buttons->addWidget(cancel);
-    return buttons;
 }
 
 } // namespace orvel::ui

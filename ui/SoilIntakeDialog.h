@@ -19,7 +19,6 @@ public:
 
 private:
     QLayout* NewTable();
-    QLayout* NewButtons();
     void Unload() override { accept(); }
 
     frmSoilIntake logic{*this};

@@ -15,14 +15,13 @@ namespace {
 
 // In the order of frmUserData::kTextBoxes.
 constexpr std::array<const char*, frmUserData::kTextBoxes.size()> kLabels = {
-    "&Name:",      "C&ompany or Title:", "&Address:", "City, State, &Zip:",
+    "&Name:",      "C&ompany or Title:", "&Address:",           "City, State, &Zip:",
     "&Telephone:", "&E-Mail:",           "&Default Directory:",
 };
 
 } // namespace
 
-UserDataDialog::UserDataDialog(QWidget* parent)
-    : QDialog(parent), Form(static_cast<const QWidget&>(*this)) {
+UserDataDialog::UserDataDialog(QWidget* parent) : QDialog(parent), Form(static_cast<const QWidget&>(*this)) {
     constexpr int kBoxWidth = 380;
     setObjectName("frmUserData");
     setWindowTitle("User Settings");
@@ -35,7 +34,8 @@ UserDataDialog::UserDataDialog(QWidget* parent)
     auto* fields = new QFormLayout;
     for (std::size_t i = 0; i < kLabels.size(); ++i) {
         const QString label = kLabels.at(i);
-        QLineEdit* box = NewTextBox(std::string{frmUserData::kTextBoxes.at(i).control}, QString(label).remove('&'));
+        QLineEdit* box =
+            NewTextBox(std::string{frmUserData::kTextBoxes.at(i).control}, QString(label).remove('&'));
         box->setMinimumWidth(kBoxWidth);
         if (i + 1 < kLabels.size()) {
             fields->addRow(label, box);
@@ -49,22 +49,10 @@ UserDataDialog::UserDataDialog(QWidget* parent)
         fields->addRow(buddy, row);
     }
 
-    auto* save = new QPushButton("&Save");
-    save->setObjectName("cmdBtnSave");
-    save->setDefault(true);
-    connect(save, &QPushButton::clicked, this, [this] { Run([this] { logic.cmdBtnSave_Click(); }); });
-    auto* cancel = new QPushButton("&Cancel");
-    cancel->setObjectName("cmdBtnCancel");
-    connect(cancel, &QPushButton::clicked, this, &UserDataDialog::reject);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(save);
-    buttons->addWidget(cancel);
-
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(fields);
     layout->addStretch();
-    layout->addLayout(buttons);
+    layout->addLayout(NewSaveAndCancel(*this, [this] { logic.cmdBtnSave_Click(); }));
     logic.Form_Load();
 }
 

@@ -42,11 +42,10 @@ TEST_F(UserSettingsCheck, NamesEachBlankField) {
                              {&UserSettings::Phone, "You need to enter a telephone number."}}) {
         Program().userSettings.*each.field = "   ";
         EXPECT_FALSE(CheckUserSettings());
-        EXPECT_EQ(surroundings.Said(),
-                  (Lines{std::string("box [User Settings Error] ") + each.complaint +
-                         "||You Should Check Your Setup Information|"
-                         "You may also change the default file location.|"
-                         "Please choose 'User Settings' on the 'Window' menu. (Ok)"}));
+        EXPECT_EQ(surroundings.Said(), (Lines{std::string("box [User Settings Error] ") + each.complaint +
+                                              "||You Should Check Your Setup Information|"
+                                              "You may also change the default file location.|"
+                                              "Please choose 'User Settings' on the 'Window' menu. (Ok)"}));
         Program().userSettings.*each.field = "filled in";
     }
 }

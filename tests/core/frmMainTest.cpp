@@ -23,8 +23,8 @@ using testing::TemporaryFolder;
 constexpr const char* kFileSaveError =
     "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
 
-// The main window as it stands after start-up, with a complete user.usr in the program directory, which is the
-// default directory too.
+// The main window as it stands after start-up, with a complete user.usr in the program directory, which is
+// the default directory too.
 class FrmMain : public testing::WindowTest, private frmMain::View {
 protected:
     FrmMain() {
@@ -75,13 +75,14 @@ TEST_F(FrmMain, LoadingReadsTheSettingsBeforeAnythingIsShown) {
     EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), folder.Path().native().substr(0, 50));
     EXPECT_EQ(Program().soilIntakeTable[7].SoilName.Trimmed(), "Clay");
     EXPECT_EQ(Contents(folder / "soil.dat").size(), 196U);
-    EXPECT_EQ(Said(), (Lines{"check OptBtnCenterPivot", "status Open or Create New Data File to Begin",
-                             "box [User Settings Error] You need to enter a name.|You need to enter an address.|"
-                             "You need to enter a City, State and Zip.|You need to enter a company or title.|"
-                             "You need to enter an e-mail address.|You need to enter a telephone number.||"
-                             "You Should Check Your Setup Information|"
-                             "You may also change the default file location.|"
-                             "Please choose 'User Settings' on the 'Window' menu. (Ok)"}));
+    EXPECT_EQ(Said(),
+              (Lines{"check OptBtnCenterPivot", "status Open or Create New Data File to Begin",
+                     "box [User Settings Error] You need to enter a name.|You need to enter an address.|"
+                     "You need to enter a City, State and Zip.|You need to enter a company or title.|"
+                     "You need to enter an e-mail address.|You need to enter a telephone number.||"
+                     "You Should Check Your Setup Information|"
+                     "You may also change the default file location.|"
+                     "Please choose 'User Settings' on the 'Window' menu. (Ok)"}));
 }
 
 TEST_F(FrmMain, SettingsThatCannotBeKeptAreToldWithTheirPlaceAndNotTrapped) {
@@ -360,7 +361,8 @@ TEST_F(FrmMain, DataEntryWithoutAFileAsksUpToTwoQuestions) {
 
 TEST_F(FrmMain, EditDataOfAFileThatIsNotThereIsRefused) {
     Load();
-    const char* refusal = "box [No Data File Open] Please create a new file or open an existing file first (Ok)";
+    const char* refusal =
+        "box [No Data File Open] Please create a new file or open an existing file first (Ok)";
     window.cmdBtnEditExisting_Click();
     EXPECT_EQ(Said(), (Lines{refusal}));
     std::filesystem::remove(OpenExample("pivot-1978.cpd"));
@@ -475,9 +477,10 @@ TEST_F(FrmMain, AGivenFileThatIsNoneOrOfNoKindIsTold) {
     PutContents(folder / "a.txt", "");
     window.OpenGivenFile(folder / "none.cpd");
     window.OpenGivenFile(folder / "a.txt");
-    EXPECT_EQ(Said(), (Lines{"box [Open File] The file none.cpd does not exist. (Ok)",
-                             "box [Open File] a.txt is neither a center pivot (*.cpd) nor a solid set (*.ssd) "
-                             "data file. (Ok)"}));
+    EXPECT_EQ(Said(),
+              (Lines{"box [Open File] The file none.cpd does not exist. (Ok)",
+                     "box [Open File] a.txt is neither a center pivot (*.cpd) nor a solid set (*.ssd) "
+                     "data file. (Ok)"}));
     EXPECT_TRUE(Program().centerPivotFile.empty());
 }
 

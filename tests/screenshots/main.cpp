@@ -61,7 +61,8 @@ int main(int argc, char** argv) {
     ui::AboutDialog about(nullptr);
     ui::UserDataDialog userData(nullptr);
     ui::SoilIntakeDialog soilIntake(nullptr);
-    for (QWidget* window : std::initializer_list<QWidget*>{&mainWindow, &splash, &about, &userData, &soilIntake}) {
+    for (QWidget* window :
+         std::initializer_list<QWidget*>{&mainWindow, &splash, &about, &userData, &soilIntake}) {
         if (!Take(*window, arguments.at(1))) {
             return 1;
         }

@@ -53,12 +53,9 @@ protected:
 
 TEST_F(FrmUserData, LoadingShowsTheFieldsWithoutTheirTrailingBlanks) {
     const std::map<std::string, std::string, std::less<>> expected = {
-        {"txtBoxName", " Ida Lund"},
-        {"txtBoxCompany", "County Extension Service"},
-        {"txtBoxAddress", "4 Court Square"},
-        {"txtBoxCityStateZip", "Alder Creek, XX 00000"},
-        {"txtBoxPhone", "555-0100"},
-        {"txtBoxEMail", "ida@extension.example"},
+        {"txtBoxName", " Ida Lund"},          {"txtBoxCompany", "County Extension Service"},
+        {"txtBoxAddress", "4 Court Square"},  {"txtBoxCityStateZip", "Alder Creek, XX 00000"},
+        {"txtBoxPhone", "555-0100"},          {"txtBoxEMail", "ida@extension.example"},
         {"txtBoxDefaultDirectory", "/tests"},
     };
     EXPECT_EQ(form.texts, expected);

@@ -91,7 +91,8 @@ TEST_F(FileDialogs, WithoutTheFlagNobodyAsks) {
     FileDialog request = SaveRequest();
     request.flags = 0;
     std::filesystem::path path;
-    WhileModal([&] { path = QtFileDialogs().Save(request); }, [&](QWidget& dialog) { Type(dialog, "old.cpd"); });
+    WhileModal([&] { path = QtFileDialogs().Save(request); },
+               [&](QWidget& dialog) { Type(dialog, "old.cpd"); });
     EXPECT_EQ(path, folder / "old.cpd");
 }
 

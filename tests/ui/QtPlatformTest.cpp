@@ -6,10 +6,10 @@
 #include "tests/ui/WidgetTest.h"
 #include "ui/TextEdge.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QMainWindow>
-#include <QAbstractButton>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
@@ -25,16 +25,21 @@ class QtServices : public testing::WidgetTest {};
 
 TEST_F(QtServices, AMessageBoxShowsItsTextAsItStands) {
     QtMessageBox service;
-    WhileModal([&] { service.Show({"<b>50%</b>\r\ntwo\rthr\xE9" "e", "The title", Buttons::Ok, Icon::Critical}); },
-               [](QWidget& window) {
-                   auto& box = dynamic_cast<QMessageBox&>(window);
-                   EXPECT_EQ(box.text().toStdString(), "<b>50%</b>\ntwo\nthr\u00E9e");
-                   EXPECT_EQ(box.textFormat(), Qt::PlainText);
-                   EXPECT_EQ(box.windowTitle(), "The title");
-                   EXPECT_EQ(box.icon(), QMessageBox::Critical);
-                   EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
-                   QTest::keyClick(&box, Qt::Key_Return);
-               });
+    WhileModal(
+        [&] {
+            service.Show({"<b>50%</b>\r\ntwo\rthr\xE9"
+                          "e",
+                          "The title", Buttons::Ok, Icon::Critical});
+        },
+        [](QWidget& window) {
+            auto& box = dynamic_cast<QMessageBox&>(window);
+            EXPECT_EQ(box.text().toStdString(), "<b>50%</b>\ntwo\nthr\u00E9e");
+            EXPECT_EQ(box.textFormat(), Qt::PlainText);
+            EXPECT_EQ(box.windowTitle(), "The title");
+            EXPECT_EQ(box.icon(), QMessageBox::Critical);
+            EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
 }
 
 TEST_F(QtServices, AMessageBoxAnswersWithItsButton) {
@@ -54,16 +59,19 @@ TEST_F(QtServices, AMessageBoxAnswersWithItsButton) {
                              {Buttons::YesNoCancel, QMessageBox::Cancel, Reply::Cancel},
                              {Buttons::YesNoCancel, QMessageBox::NoButton, Reply::Cancel}}) {
         Reply reply = Reply::None;
-        WhileModal([&] { reply = service.Show({"Text", "Title", each.buttons, Icon::None}); },
-                   [&](QWidget& window) {
-                       auto& box = dynamic_cast<QMessageBox&>(window);
-                       EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
-                       if (each.pressed == QMessageBox::NoButton) {
-                           QTest::keyClick(&box, Qt::Key_Escape);
-                       } else {
-                           box.button(each.pressed)->click();
-                       }
-                   });
+        WhileModal(
+            [&] {
+                reply = service.Show({"Text", "Title", each.buttons, Icon::None});
+            },
+            [&](QWidget& window) {
+                auto& box = dynamic_cast<QMessageBox&>(window);
+                EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+                if (each.pressed == QMessageBox::NoButton) {
+                    QTest::keyClick(&box, Qt::Key_Escape);
+                } else {
+                    box.button(each.pressed)->click();
+                }
+            });
         EXPECT_EQ(reply, each.reply);
     }
 }
@@ -72,11 +80,14 @@ TEST_F(QtServices, AMessageBoxBelongsToTheWindowInFront) {
     QWidget window;
     ShowActive(window);
     QtMessageBox service;
-    WhileModal([&] { service.Show({"Text", "Title", Buttons::Ok, Icon::None}); },
-               [&](QWidget& box) {
-                   EXPECT_EQ(box.parentWidget(), &window);
-                   box.close();
-               });
+    WhileModal(
+        [&] {
+            service.Show({"Text", "Title", Buttons::Ok, Icon::None});
+        },
+        [&](QWidget& box) {
+            EXPECT_EQ(box.parentWidget(), &window);
+            box.close();
+        });
 }
 
 TEST_F(QtServices, KeysGoToTheControlThatHadTheFocusLast) {

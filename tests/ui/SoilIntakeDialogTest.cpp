@@ -7,8 +7,8 @@
 #include "tests/support/TestFiles.h"
 #include "tests/ui/WidgetTest.h"
 
-#include <QClipboard>
 #include <QApplication>
+#include <QClipboard>
 #include <QPushButton>
 #include <QTest>
 

@@ -47,8 +47,8 @@ TEST_F(UserDataDialog, NamesItsControlsInReadingOrder) {
         EXPECT_EQ(label->buddy()->accessibleName().toStdString(), labels.back());
     }
     EXPECT_EQ(std::set<std::string>(labels.begin(), labels.end()),
-              (std::set<std::string>{"Name:", "Company or Title:", "Address:", "City, State, Zip:", "Telephone:",
-                                     "E-Mail:", "Default Directory:"}));
+              (std::set<std::string>{"Name:", "Company or Title:", "Address:", "City, State, Zip:",
+                                     "Telephone:", "E-Mail:", "Default Directory:"}));
     EXPECT_EQ(Find<QPushButton>(dialog, "cmdBtnBrowse").text().remove('&'), "Browse...");
     EXPECT_EQ(Find<QPushButton>(dialog, "cmdBtnSave").text().remove('&'), "Save");
     EXPECT_EQ(Find<QPushButton>(dialog, "cmdBtnCancel").text().remove('&'), "Cancel");

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "tests/ui/WidgetTest.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QLabel>
-#include <QAbstractButton>
 #include <QGroupBox>
+#include <QLabel>
 #include <QMenuBar>
 #include <QTest>
 #include <QTimer>
