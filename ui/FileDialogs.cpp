@@ -42,6 +42,8 @@ QString FilterOf(const FileDialog& dialog) {
 }
 
 void SetUp(QFileDialog& window, const FileDialog& dialog) {
+    constexpr QSize kSize{760, 480};
+    window.resize(kSize);
     window.setOption(QFileDialog::DontUseNativeDialog);
     window.setNameFilter(FilterOf(dialog));
     window.setDefaultSuffix(ToQt(dialog.defaultExtension));

@@ -1,12 +1,15 @@
 # SPDX-FileCopyrightText: 2026 The ORVEL developers
 # SPDX-License-Identifier: MIT
-"""A program on an X display of its own, seen through the accessibility bus and used by real clicks and keys.
+"""Programs on an X display of their own, seen through the accessibility bus and used by real clicks and keys.
 
-    with Desktop(["build/dev/ui/orvel"]) as desktop:
+    with Desktop() as desktop:
+        desktop.open(["build/dev/ui/orvel"])
         desktop.choose("File", "New Client")
         desktop.type_into("File name:", "/tmp/new.cpd\\n")
+        desktop.end()
 
-Controls are known by their accessible names. Whatever is looked for is waited for.
+Controls are known by their accessible names. Whatever is looked for is waited for. There can be one desktop in a
+process, since its environment holds the addresses.
 Needs the Debian packages xvfb, openbox, xdotool, dbus, at-spi2-core, python3-gi, gir1.2-atspi-2.0.
 """
 
@@ -19,54 +22,34 @@ PATIENCE = 20  # seconds
 
 
 class Desktop:
-    def __init__(self, command, environment=None):
-        self.command = command
-        self.environment = environment or {}
+    def __init__(self):
         self.processes = []
         self.program = None
-        self.tree = None
 
     def __enter__(self):
+        self.home = tempfile.TemporaryDirectory()
         try:
-            self.start()
+            self._start()
         except BaseException:
-            self.stop()
+            self.__exit__()
             raise
         return self
 
     def __exit__(self, *_):
-        self.stop()
-
-    def start(self):
-        # The bus is asked in this process, so that its address must stand in this environment.
-        self.runtime = tempfile.TemporaryDirectory()
-        os.environ.update(
-            DISPLAY=":" + self._first_line_of("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"),
-            XDG_RUNTIME_DIR=self.runtime.name,
-            HOME=self.runtime.name,
-            QT_QPA_PLATFORM="xcb",
-            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-            GSETTINGS_BACKEND="memory",
-        )
-        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._first_line_of(
-            "dbus-daemon", "--session", "--nofork", "--print-address=1")
-        self._run("openbox")
-        import gi
-        gi.require_version("Atspi", "2.0")
-        from gi.repository import Atspi
-        Atspi.init()
-        self.bus = Atspi
-        self.program = self._run(*self.command, stderr=subprocess.PIPE, env=os.environ | self.environment)
-
-    def stop(self):
+        self.end()
         for process in reversed(self.processes):
-            if process.poll() is None:
-                process.terminate()
-                process.wait()
-            for pipe in (process.stdout, process.stderr):
-                if pipe is not None:
-                    pipe.close()
-        self.runtime.cleanup()
+            self._stop(process)
+        self.home.cleanup()
+
+    def open(self, command):
+        """Starts the program that everything else is about."""
+        self.program = self._run(*command, stderr=subprocess.PIPE)
+
+    def end(self):
+        """Ends the program if it still runs."""
+        if self.program is not None:
+            self._stop(self.program)
+            self.program = None
 
     def status(self):
         """Waits until the program ends by itself; its exit status."""
@@ -117,14 +100,42 @@ class Desktop:
 
     # ------------------------------------------------------------------------------------------------------
 
-    def _run(self, *command, **options):
-        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, text=True,
-                                   **({"stderr": subprocess.DEVNULL} | options))
-        self.processes.append(process)
-        return process
+    def _start(self):
+        os.environ.update(
+            DISPLAY=":" + self._first_line_of("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"),
+            XDG_RUNTIME_DIR=self.home.name,
+            HOME=self.home.name,
+            QT_QPA_PLATFORM="xcb",
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            GSETTINGS_BACKEND="memory",
+        )
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._first_line_of(
+            "dbus-daemon", "--session", "--nofork", "--print-address=1")
+        self.processes.append(self._run("openbox"))
+        import gi
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+        Atspi.init()
+        self.bus = Atspi
+
+    @staticmethod
+    def _run(*command, **options):
+        return subprocess.Popen(command, stdin=subprocess.DEVNULL, text=True,
+                                **({"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL} | options))
+
+    @staticmethod
+    def _stop(process):
+        if process.poll() is None:
+            process.terminate()
+            process.wait()
+        for pipe in (process.stdout, process.stderr):
+            if pipe is not None:
+                pipe.close()
 
     def _first_line_of(self, *command):
-        line = self._run(*command, stdout=subprocess.PIPE).stdout.readline().strip()
+        process = self._run(*command, stdout=subprocess.PIPE)
+        self.processes.append(process)
+        line = process.stdout.readline().strip()
         if not line:
             raise RuntimeError(command[0] + " does not start")
         return line
@@ -133,7 +144,7 @@ class Desktop:
         subprocess.run(["xdotool", *arguments], check=True)
 
     def _click(self, control):
-        area = control.get_component_iface().get_extents(self.bus.CoordType.SCREEN)
+        area = self.bus.Component.get_extents(control, self.bus.CoordType.SCREEN)
         self._xdotool("mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click", "1")
 
     def _wait(self, condition, what):

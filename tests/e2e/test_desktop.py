@@ -43,91 +43,108 @@ class DesktopTest(unittest.TestCase):
         self.settings = self.folder / "user.usr"
         self.settings.write_bytes(user_settings(folder=str(self.folder)))
 
-    def program(self, *arguments):
+    def program(self, *arguments, under=()):
         wait_for_a_calm_second()
-        return Desktop([PROGRAM, "--program-dir", str(self.folder), *map(str, arguments)])
+        self.addCleanup(desktop.end)
+        desktop.open([*under, PROGRAM, "--program-dir", str(self.folder), *map(str, arguments)])
 
     def test_a_session_with_a_center_pivot_test(self):
         new, copy = self.folder / "new.cpd", self.folder / "copy.cpd"
-        with self.program() as desktop:
-            desktop.wait_for_text("Open or Create New Data File to Begin")
-            desktop.choose("File", "New Client")
-            desktop.find("Create New Data File - Center Pivot System")
-            desktop.type_into("File name:", "new\n")
-            desktop.wait_for_text("File: new.cpd")
-            record = new.read_bytes()
-            self.assertEqual(len(record), 9002)
-            self.assertIn(b"Choose Soil Type", record)
+        self.program()
+        desktop.wait_for_text("Open or Create New Data File to Begin")
+        desktop.choose("File", "New Client")
+        desktop.find("Create New Data File - Center Pivot System")
+        desktop.type_into("File name:", "new\n")
+        desktop.wait_for_text("File: new.cpd")
+        record = new.read_bytes()
+        self.assertEqual(len(record), 9002)
+        self.assertIn(b"Choose Soil Type", record)
 
-            desktop.choose("File", "Save As (Current Information)")
-            desktop.find("Save Center Pivot Data As - Enter File Name")
-            desktop.type_into("File name:", f"{copy}\n")
-            desktop.wait_for_text("File: copy.cpd")
-            self.assertEqual(copy.read_bytes(), record)
+        desktop.choose("File", "Save As (Current Information)")
+        desktop.find("Save Center Pivot Data As - Enter File Name")
+        desktop.type_into("File name:", "copy\n")
+        desktop.wait_for_text("File: copy.cpd")
+        self.assertEqual(copy.read_bytes(), record)
 
-            desktop.choose("File", "Close Current Client")
-            desktop.wait_for_text("No File Open")
+        desktop.choose("File", "Close Current Client")
+        desktop.wait_for_text("No File Open")
 
-            desktop.press("Open Existing Data File")
-            desktop.find("Open Center Pivot Data")
-            desktop.type_into("File name:", f"{new}\n")
-            desktop.wait_for_text("File: new.cpd")
+        desktop.press("Open Existing Data File")
+        desktop.find("Open Center Pivot Data")
+        desktop.type_into("File name:", "new.cpd\n")
+        desktop.wait_for_text("File: new.cpd")
 
-            desktop.keys("ctrl+q")
-            self.assertEqual(desktop.status(), 0)
+        desktop.keys("ctrl+q")
+        self.assertEqual(desktop.status(), 0)
         self.assertEqual(new.read_bytes(), record)
+
+    def test_a_disk_that_fills_up_is_told(self):
+        old = self.folder / "old.ssd"
+        old.write_bytes((EXAMPLES / "solid-set-1997.ssd").read_bytes())
+        self.program(old, under=["prlimit", "--fsize=8192"])
+        desktop.wait_for_text("File: old.ssd")
+        for item, file_afterwards in [("Save As (Current Information)", "File: old.ssd"), ("New Client", "No File Open")]:
+            desktop.choose("File", item)
+            desktop.type_into("File name:", "new\n")
+            desktop.find("File Save Error", "alert")
+            desktop.wait_for_text("Error in saving file. Please check drives and disk space.")
+            desktop.press("OK")
+            desktop.wait_for_text(file_afterwards)
+        self.assertEqual(old.read_bytes(), (EXAMPLES / "solid-set-1997.ssd").read_bytes())
+        self.assertEqual(sorted(file.name for file in self.folder.iterdir()), ["old.ssd", "soil.dat", "user.usr"])
 
     def test_settings_and_soils_are_edited(self):
         soils = self.folder / "soil.dat"
-        with self.program() as desktop:
-            desktop.choose("Window", "User Settings")
-            self.assertEqual(desktop.text_of("Company or Title:"), "County Extension Service")
-            desktop.type_into("Name:", "Ole Berg")
-            desktop.press("Save")
-            desktop.wait_until_gone("User Settings", "dialog")
-            self.assertEqual(self.settings.read_bytes(), user_settings("Ole Berg", str(self.folder)))
+        self.program()
+        desktop.choose("Window", "User Settings")
+        self.assertEqual(desktop.text_of("Company or Title:"), "County Extension Service")
+        desktop.type_into("Name:", "Ole Berg")
+        desktop.press("Save")
+        desktop.wait_until_gone("User Settings", "dialog")
+        self.assertEqual(self.settings.read_bytes(), user_settings("Ole Berg", str(self.folder)))
 
-            before = soils.read_bytes()
-            self.assertEqual(before[:28], text("Sand", 20) + struct.pack("<ff", 5, 5))
-            desktop.choose("Window", "Soil Intake Settings")
-            desktop.type_into("Soil Description, row 1", "Gravel")
-            desktop.keys("Tab")
-            desktop.type("a6.5")
-            desktop.press("Save")
-            desktop.wait_until_gone("Soil Intake Rates", "dialog")
-            self.assertEqual(soils.read_bytes(), text("Gravel", 20) + struct.pack("<ff", 6.5, 5) + before[28:])
+        before = soils.read_bytes()
+        self.assertEqual(before[:28], text("Sand", 20) + struct.pack("<ff", 5, 5))
+        desktop.choose("Window", "Soil Intake Settings")
+        desktop.type_into("Soil Description, row 1", "Gravel")
+        desktop.keys("Tab")
+        desktop.type("a6.5")
+        desktop.press("Save")
+        desktop.wait_until_gone("Soil Intake Rates", "dialog")
+        self.assertEqual(soils.read_bytes(), text("Gravel", 20) + struct.pack("<ff", 6.5, 5) + before[28:])
 
     def test_a_file_named_at_the_start_is_opened(self):
-        with self.program(EXAMPLES / "solid-set-1997.ssd") as desktop:
-            desktop.wait_for_text("File: solid-set-1997.ssd")
-            kind = desktop.find("Solid Set System", "radio button")
-            self.assertTrue(kind.get_state_set().contains(desktop.bus.StateType.CHECKED))
+        self.program(EXAMPLES / "solid-set-1997.ssd")
+        desktop.wait_for_text("File: solid-set-1997.ssd")
+        kind = desktop.find("Solid Set System", "radio button")
+        self.assertTrue(kind.get_state_set().contains(desktop.bus.StateType.CHECKED))
 
     def test_a_file_that_is_missing_is_told(self):
-        with self.program(self.folder / "none.cpd") as desktop:
-            desktop.wait_for_text("The file none.cpd does not exist.")
-            desktop.press("OK")
-            desktop.wait_for_text("Open or Create New Data File to Begin")
+        self.program(self.folder / "none.cpd")
+        desktop.wait_for_text("The file none.cpd does not exist.")
+        desktop.press("OK")
+        desktop.wait_for_text("Open or Create New Data File to Begin")
 
     def test_incomplete_settings_are_told_in_front_of_the_splash_window(self):
         self.settings.unlink()
-        with self.program() as desktop:
-            desktop.find("User Settings Error", "alert")
-            self.assertTrue(desktop.is_there("Version 0.1.0", "label"), "the splash window is still shown")
-            desktop.press("OK")
-            desktop.wait_for_text("Open or Create New Data File to Begin")
+        self.program()
+        desktop.find("User Settings Error", "alert")
+        self.assertTrue(desktop.is_there("Version 0.1.0", "label"), "the splash window is still shown")
+        desktop.press("OK")
+        desktop.wait_for_text("Open or Create New Data File to Begin")
         self.assertEqual(self.settings.read_bytes(), b" " * 300 + text(str(self.folder), 50) + b"\0\0")
 
     def test_settings_that_cannot_be_kept_end_the_program(self):
         self.settings.unlink()
         self.settings.mkdir()
-        with self.program() as desktop:
-            desktop.find("ORVEL", "alert")
-            desktop.keys("Return")
-            desktop.find("Run-time error '75':\n\nPath/File access error", "label")
-            desktop.press("OK")
-            self.assertEqual(desktop.status(), 1)
+        self.program()
+        desktop.find("ORVEL", "alert")
+        desktop.keys("Return")
+        desktop.find("Run-time error '75':\n\nPath/File access error", "label")
+        desktop.press("OK")
+        self.assertEqual(desktop.status(), 1)
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    with Desktop() as desktop:
+        unittest.main(verbosity=2)

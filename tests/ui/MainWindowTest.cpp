@@ -128,7 +128,7 @@ TEST_F(MainWindow, TheOptionsChooseTheKind) {
     Click("OptBtnCenterPivot");
     EXPECT_EQ(Program().testKind, "centerPivot");
     QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(Program().testKind, "solidSet");
+    EXPECT_TRUE(QTest::qWaitFor([] { return Program().testKind == "solidSet"; }));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
     EXPECT_EQ(Program().testKind, "centerPivot");
 }
