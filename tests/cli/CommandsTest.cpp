@@ -4,6 +4,7 @@
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
 #include "tests/cli/Program.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/TestFiles.h"
 
 #include <filesystem>
@@ -36,15 +37,8 @@ protected:
 };
 
 TEST_F(Commands, ReportPrintsTheReportWithTheSettingsOfTheProgramDirectory) {
-    UserSettings settings;
-    settings.Name = "Ida Lund";
-    settings.Company = "County Extension Service";
-    settings.Address = "4 Court Square";
-    settings.CityStateZip = "Alder Creek, XX 00000";
-    settings.Phone = "555-0100";
-    settings.EMail = "ida@extension.example";
     Program().programDirectory = folder.Path();
-    SaveUserSettings(settings);
+    SaveUserSettings(CompleteUserSettings());
     const RunResult run = RunProgram({"report", kPivot, "--now", kNow, "--program-dir", folder.Path()});
     EXPECT_EQ(run.status, 0);
     EXPECT_TRUE(MatchesGolden(run.out, "pivot-1978-report.txt"));

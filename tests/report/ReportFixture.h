@@ -6,6 +6,7 @@
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
 #include "solidset/SolidSet.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
 
@@ -19,13 +20,7 @@ protected:
     ReportTest() {
         ResetCenterPivot();
         ResetSolidSet();
-        UserSettings& user = Program().userSettings;
-        user.Name = "Ida Lund";
-        user.Company = "County Extension Service";
-        user.Address = "4 Court Square";
-        user.CityStateZip = "Alder Creek, XX 00000";
-        user.Phone = "555-0100";
-        user.EMail = "ida@extension.example";
+        Program().userSettings = CompleteUserSettings();
     }
 
     ~ReportTest() override {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "ui/AboutDialog.h"
 #include "ui/Desktop.h"
 #include "ui/SoilIntakeDialog.h"
@@ -19,13 +20,7 @@ using namespace orvel;
 
 void FillSettings(const std::string& programDirectory) {
     Program().programDirectory = programDirectory;
-    UserSettings settings;
-    settings.Name = "Ida Lund";
-    settings.Company = "County Extension Service";
-    settings.Address = "4 Court Square";
-    settings.CityStateZip = "Alder Creek, XX 00000";
-    settings.Phone = "555-0100";
-    settings.EMail = "ida@extension.example";
+    UserSettings settings = testing::CompleteUserSettings();
     settings.DefaultDirectory = "/home/ida/tests";
     SaveUserSettings(settings);
 }

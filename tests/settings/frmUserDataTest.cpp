@@ -3,6 +3,7 @@
 #include "settings/frmUserData.h"
 
 #include "core/RecordFiles.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/TestFiles.h"
 #include "tests/support/WindowTest.h"
 
@@ -29,12 +30,8 @@ protected:
     FrmUserData() {
         Program().programDirectory = folder.Path();
         UserSettings& settings = Program().userSettings;
+        settings = testing::CompleteUserSettings();
         settings.Name = " Ida Lund";
-        settings.Company = "County Extension Service";
-        settings.Address = "4 Court Square";
-        settings.CityStateZip = "Alder Creek, XX 00000";
-        settings.Phone = "555-0100";
-        settings.EMail = "ida@extension.example";
         settings.DefaultDirectory = "/tests";
         SaveUserSettings(settings);
         before = Contents(folder / "user.usr");

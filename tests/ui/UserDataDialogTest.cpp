@@ -4,6 +4,7 @@
 
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/TestFiles.h"
 #include "tests/ui/WidgetTest.h"
 
@@ -21,12 +22,8 @@ class UserDataDialog : public testing::WidgetTest {
 protected:
     UserDataDialog() {
         Program().programDirectory = folder.Path();
-        UserSettings& settings = Program().userSettings;
-        for (const auto& box : frmUserData::kTextBoxes) {
-            settings.*box.field = "x";
-        }
-        settings.Name = "Ida Lund";
-        SaveUserSettings(settings);
+        Program().userSettings = testing::CompleteUserSettings();
+        SaveUserSettings(Program().userSettings);
     }
 
     testing::TemporaryFolder folder;
