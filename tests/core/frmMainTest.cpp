@@ -3,6 +3,7 @@
 #include "core/frmMain.h"
 
 #include "core/RecordFiles.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/TestFiles.h"
 #include "tests/support/WindowTest.h"
 
@@ -29,11 +30,7 @@ class FrmMain : public testing::WindowTest, private frmMain::View {
 protected:
     FrmMain() {
         Program().programDirectory = folder.Path();
-        UserSettings settings;
-        for (auto field : {&UserSettings::Name, &UserSettings::Company, &UserSettings::Address,
-                           &UserSettings::CityStateZip, &UserSettings::Phone, &UserSettings::EMail}) {
-            settings.*field = "filled in";
-        }
+        UserSettings settings = testing::CompleteUserSettings();
         settings.DefaultDirectory = folder.Path().native();
         SaveUserSettings(settings);
     }
