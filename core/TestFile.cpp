@@ -66,7 +66,7 @@ bool TryToWrite(const fs::path& path) {
 } // namespace
 
 const TestFileKind& CurrentKind() {
-    return Program().testKind == kSolidSet ? kSolidSetKind : kCenterPivotKind;
+    return Program().testKind == kCenterPivot ? kCenterPivotKind : kSolidSetKind;
 }
 
 const fs::path& CurrentFile() {

@@ -35,15 +35,14 @@ void SendKeys(std::string_view keys) {
 void frmMain::Form_Load() {
     try {
         LoadUserSettings();
+        LoadSoilTable();
     } catch (const FileError& error) {
         // Not trapped: only told with its path, since nobody typed one.
-        Tell("The program can't keep its settings in " + PathText(Program().programDirectory) +
-                 "/user.usr: " + error.what() +
-                 ".\rStart it with --program-dir and a folder that it may write to.",
+        Tell("The program can't keep its settings in " + PathText(Program().programDirectory) + ": " +
+                 error.what() + ".\rStart it with --program-dir and a folder that it may write to.",
              kProgramTitle);
         throw;
     }
-    LoadSoilTable();
     view.CheckOptBtnCenterPivot();
     Program().testKind = kCenterPivot;
     view.SetStatusText("Open or Create New Data File to Begin");
@@ -222,7 +221,7 @@ void frmMain::cmdBtnGenerateReport_Click() {
 void frmMain::OpenGivenFile(const fs::path& path) {
     const bool isCenterPivot = HasExtension(path, "cpd");
     if (!FileExists(path)) {
-        Tell("The file " + FileNameText(path) + " does not exist.", "Open File");
+        Tell("There is no file " + PathText(path) + ".", "Open File");
     } else if (!isCenterPivot && !HasExtension(path, "ssd")) {
         Tell(FileNameText(path) + " is neither a center pivot (*.cpd) nor a solid set (*.ssd) data file.",
              "Open File");

@@ -12,6 +12,7 @@
 #include "ui/UserDataDialog.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace orvel::ui {
 
@@ -102,8 +103,10 @@ std::string Desktop::BuildSolidSetSummary() {
 }
 
 void Desktop::UnloadOthers() {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window != mainWindow.get()) {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    // Closing one may delete another.
+    for (const QPointer<QWidget>& window : QList<QPointer<QWidget>>(windows.begin(), windows.end())) {
+        if (window != nullptr && window != mainWindow.get()) {
             window->close();
         }
     }

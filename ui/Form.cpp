@@ -26,7 +26,10 @@ std::string Form::Text(std::string_view control) const {
 
 void Form::SetText(std::string_view control, const std::string& text) {
     if (auto* box = Find<QLineEdit>(widget, control)) {
+        // The cursor stays where the user types.
+        const int cursor = box->cursorPosition();
         box->setText(ToQt(text));
+        box->setCursorPosition(cursor);
     } else if (auto* label = Find<QLabel>(widget, control)) {
         label->setText(ToQt(text));
     }

@@ -20,9 +20,9 @@ public:
             return false;
         }
         const auto* press = static_cast<QKeyEvent*>(event);
-        const bool isShortcut = (press->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
         const QString text = press->text();
-        if (isShortcut || text.isEmpty() || !text.at(0).isPrint()) {
+        const bool isShortcut = (press->modifiers() & Qt::ControlModifier) != 0;
+        if (isShortcut || text.isEmpty() || text.at(0).category() == QChar::Other_Control) {
             return false;
         }
         int passed = 0;

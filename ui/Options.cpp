@@ -10,17 +10,32 @@
 
 namespace orvel::ui {
 
+namespace {
+
+namespace fs = std::filesystem;
+
+// The full path, without a separator at its end.
+fs::path Absolute(const fs::path& path) {
+    const fs::path full = fs::absolute(path).lexically_normal();
+    return full.has_filename() || full == full.root_path() ? full : full.parent_path();
+}
+
+} // namespace
+
 std::optional<Options> ReadOptions(int argc, const char* const* argv, int& status) {
     constexpr int kWrongCall = 2;
     Options options{.file = {}, .programDirectory = FolderOfExecutable()};
     std::string file;
     CLI::App app{"Evaluates field irrigation systems from catch-can tests.", "orvel"};
     app.set_version_flag("--version", std::string("orvel ") + ProgramVersion());
-    app.add_option("FILE", file, "A test file to open, .cpd or .ssd")->type_name("");
+    app.add_option("FILE", file, "A test file to open, .cpd or .ssd")
+        ->type_name("")
+        ->check(
+            CLI::Validator([](const std::string& name) { return name.empty() ? "FILE is empty" : ""; }, ""));
     app.add_option("--program-dir", options.programDirectory,
                    "Where user.usr, soil.dat and help.rtf are (default: the program's folder)")
         ->type_name("FOLDER")
-        ->check(CLI::ExistingDirectory);
+        ->check(CLI::Validator(CLI::ExistingDirectory).description(""));
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& request) {
@@ -31,8 +46,11 @@ std::optional<Options> ReadOptions(int argc, const char* const* argv, int& statu
         status = kWrongCall;
         return std::nullopt;
     }
+    // Both are kept longer than the call: the one as the open file, the other perhaps as the default
+    // directory.
+    options.programDirectory = Absolute(options.programDirectory);
     if (!file.empty()) {
-        options.file = file;
+        options.file = Absolute(file);
     }
     return options;
 }

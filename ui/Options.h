@@ -7,7 +7,7 @@
 
 namespace orvel::ui {
 
-// What the program was called with.
+// What the program was called with; full paths.
 struct Options {
     std::optional<std::filesystem::path> file;
     std::filesystem::path programDirectory;

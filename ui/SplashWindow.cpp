@@ -6,13 +6,15 @@
 #include "ui/Logo.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace orvel::ui {
 
 SplashWindow::SplashWindow(std::function<void()> onClose)
-    : QWidget(nullptr, Qt::SplashScreen), Form(static_cast<const QWidget&>(*this)),
-      whenClosed(std::move(onClose)) {
+    : QWidget(nullptr,
+              Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      Form(static_cast<const QWidget&>(*this)), whenClosed(std::move(onClose)) {
     constexpr int kLogoSize = 128;
     constexpr int kMargin = 40;
     setObjectName("frmSplash");
@@ -25,7 +27,14 @@ SplashWindow::SplashWindow(std::function<void()> onClose)
     for (QLabel* label : {logo, title, version}) {
         layout->addWidget(label, 0, Qt::AlignHCenter);
     }
+    layout->setSizeConstraint(QLayout::SetFixedSize);
     logic.Form_Load();
+}
+
+void SplashWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        close();
+    }
 }
 
 void SplashWindow::closeEvent(QCloseEvent* event) {

@@ -10,12 +10,14 @@
 
 namespace orvel::ui {
 
-// Shown while the program starts, above no other window. Closing it calls `onClose`.
+// Shown while the program starts, above no other window. Its title bar and Escape close it, which calls
+// `onClose`.
 class SplashWindow : public QWidget, private Form {
 public:
     explicit SplashWindow(std::function<void()> onClose);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 

@@ -9,15 +9,19 @@
 #include "ui/Options.h"
 
 #include <QApplication>
-#include <algorithm>
-#include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
-// One of them is set where windows can be shown.
-constexpr std::array<const char*, 3> kDisplays = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+// Where no window can be shown, the toolkit would print paragraphs and abort.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*message*/) {
+    if (type == QtFatalMsg) {
+        (void)std::fputs("orvel: no window can be shown here; orvel-cli needs none\n", stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+}
 
 } // namespace
 
@@ -29,18 +33,15 @@ int main(int argc, char** argv) {
     if (!options) {
         return status;
     }
-    // The toolkit would abort.
-    if (std::none_of(kDisplays.begin(), kDisplays.end(), qEnvironmentVariableIsSet)) {
-        (void)std::fputs("orvel: there is no display; orvel-cli needs none\n", stderr);
-        return EXIT_FAILURE;
-    }
     orvel::UseCodePage(orvel::CodePage::OfSystem());
     orvel::UseNumberLocale(orvel::SystemNumberLocale());
     orvel::Program().programDirectory = options->programDirectory;
 
     // The toolkit's own options are for its environment variables.
     int toolkitsArgc = 1;
+    qInstallMessageHandler(EndWithoutDisplay);
     const QApplication application(toolkitsArgc, argv);
+    qInstallMessageHandler(nullptr);
     QApplication::setApplicationName(orvel::kProgramTitle);
     QApplication::setApplicationVersion(orvel::ProgramVersion());
     QApplication::setWindowIcon(orvel::ui::ProgramIcon());

@@ -3,6 +3,7 @@
 #include "core/UserSettingsCheck.h"
 
 #include "core/ProgramState.h"
+#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/TestFiles.h"
 #include "tests/support/WindowTest.h"
 
@@ -16,17 +17,18 @@ using testing::Lines;
 
 class UserSettingsCheck : public testing::WindowTest {
 protected:
-    UserSettingsCheck() {
-        for (auto field : {&UserSettings::Name, &UserSettings::Company, &UserSettings::Address,
-                           &UserSettings::CityStateZip, &UserSettings::Phone, &UserSettings::EMail}) {
-            Program().userSettings.*field = "filled in";
-        }
-    }
+    UserSettingsCheck() { Program().userSettings = testing::CompleteUserSettings(); }
 };
 
 TEST_F(UserSettingsCheck, SaysNothingWhenNothingIsMissing) {
     EXPECT_TRUE(CheckUserSettings());
     EXPECT_EQ(surroundings.Said(), Lines{}) << "the default directory is not asked for";
+}
+
+TEST_F(UserSettingsCheck, OnlyReads) {
+    Program().userSettings.Name = "  Ida";
+    EXPECT_TRUE(CheckUserSettings());
+    EXPECT_EQ(Program().userSettings.Name.Whole().substr(0, 5), "  Ida");
 }
 
 TEST_F(UserSettingsCheck, NamesEachBlankField) {

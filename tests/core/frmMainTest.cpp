@@ -85,10 +85,17 @@ TEST_F(FrmMain, LoadingReadsTheSettingsBeforeAnythingIsShown) {
 TEST_F(FrmMain, SettingsThatCannotBeKeptAreToldWithTheirPlaceAndNotTrapped) {
     std::filesystem::remove(folder / "user.usr");
     std::filesystem::create_directory(folder / "user.usr");
+    const std::string box = "box [ORVEL] The program can't keep its settings in " + folder.Path().native() +
+                            ": cannot write to what is no file: Is a directory.|"
+                            "Start it with --program-dir and a folder that it may write to. (Ok)";
     ExpectRunTimeError(ErrorNumber::PathFileAccessError, [this] { window.Form_Load(); });
-    EXPECT_EQ(Said(), (Lines{"box [ORVEL] The program can't keep its settings in " + folder.Path().native() +
-                             "/user.usr: cannot write to what is no file: Is a directory.|"
-                             "Start it with --program-dir and a folder that it may write to. (Ok)"}));
+    EXPECT_EQ(Said(), (Lines{box}));
+    EXPECT_FALSE(std::filesystem::exists(folder / "soil.dat")) << "the user's settings come first";
+
+    std::filesystem::remove(folder / "user.usr");
+    std::filesystem::create_directory(folder / "soil.dat");
+    ExpectRunTimeError(ErrorNumber::PathFileAccessError, [this] { window.Form_Load(); });
+    EXPECT_EQ(Said(), (Lines{box}));
 }
 
 TEST_F(FrmMain, NewClosesFirstThenWritesTheEmptyRecordOfTheKind) {
@@ -224,6 +231,15 @@ TEST_F(FrmMain, SaveWritesNothingOfASolidSetTest) {
     EXPECT_EQ(Said(), Lines{});
 }
 
+TEST_F(FrmMain, SaveKnowsTheSolidSetKindByAnotherNameOnly) {
+    Load();
+    const auto file = OpenExample("solid-set-1997.ssd");
+    Program().solidSetTest.ClientName = "Somebody else";
+    Program().testKind = "solidset";
+    window.mnuFileSave_Click();
+    EXPECT_EQ(ReadTest<SolidSetTest>(file).ClientName.Trimmed(), "Somebody else");
+}
+
 TEST_F(FrmMain, SaveWithoutAFileDoesNothing) {
     Load();
     window.mnuFileSave_Click();
@@ -271,6 +287,18 @@ TEST_F(FrmMain, SaveAsOfASolidSetTestClosesTheOther) {
     EXPECT_TRUE(Program().centerPivotTest.ClientName.IsBlank());
 }
 
+TEST_F(FrmMain, SaveAsOfACenterPivotTestClosesTheOther) {
+    Load();
+    OpenExample("solid-set-1997.ssd");
+    window.OptBtnCenterPivot_Click();
+    surroundings.paths = {folder / "empty.cpd"};
+    window.mnuFileSaveAs_Click();
+    EXPECT_EQ(Said().back(), "status File: empty.cpd");
+    EXPECT_EQ(Contents(folder / "empty.cpd").size(), 9002U);
+    EXPECT_TRUE(Program().solidSetFile.empty());
+    EXPECT_TRUE(Program().solidSetTest.ClientName.IsBlank());
+}
+
 TEST_F(FrmMain, ASaveAsThatIsCancelledOrFailsLeavesPathRecordAndStatus) {
     Load();
     const auto file = OpenExample("pivot-1978.cpd");
@@ -314,6 +342,12 @@ TEST_F(FrmMain, TheButtonAsksBeforeItClosesAnOpenFile) {
 
     window.cmdBtnOpenFile_Click();
     EXPECT_EQ(Said(), (Lines{"status No File Open", dialog})) << "no question without a file";
+
+    OpenExample("solid-set-1997.ssd");
+    window.OptBtnCenterPivot_Click();
+    surroundings.paths = {{}};
+    window.cmdBtnOpenFile_Click();
+    EXPECT_EQ(Said(), (Lines{"status No File Open", dialog})) << "none of the kind is open";
 }
 
 TEST_F(FrmMain, ActivationShowsTheOpenFileOfEitherKind) {
@@ -343,7 +377,7 @@ TEST_F(FrmMain, DataEntryWithoutAFileAsksUpToTwoQuestions) {
     const char* first = "box [Open Existing File] You have not created or opened a data file.|"
                         "Would you like to open an existing file? (YesNo)";
     const char* second = "box [Create New File] Would you like to create a new file? (YesNo)";
-    surroundings.replies = {Reply::No, Reply::No, Reply::Yes, Reply::No, Reply::Yes};
+    surroundings.replies = {Reply::No, Reply::No, Reply::Yes, Reply::No, Reply::Yes, Reply::No, Reply::No};
     surroundings.paths = {{}, {}};
     window.mnuDataEntry_Click();
     EXPECT_EQ(Said(), (Lines{first, second}));
@@ -354,6 +388,9 @@ TEST_F(FrmMain, DataEntryWithoutAFileAsksUpToTwoQuestions) {
     EXPECT_EQ(Said(), (Lines{first, second, "status No File Open",
                              In("save [Create New Data File - Center Pivot System] "
                                 "All Files (*.cpd)|*.cpd; cpd; 0x2806; ")}));
+    std::filesystem::remove(OpenExample("pivot-1978.cpd"));
+    window.mnuDataEntry_Click();
+    EXPECT_EQ(Said(), (Lines{first, second})) << "the file has vanished";
 }
 
 TEST_F(FrmMain, EditDataOfAFileThatIsNotThereIsRefused) {
@@ -376,7 +413,7 @@ TEST_F(FrmMain, AReportNeedsAFileOfTheKind) {
     window.mnuViewReport_Click();
     EXPECT_EQ(Said(), (Lines{"box [No Data File Open] No center pivot file loaded. "
                              "Please open existing file or create new file. (Ok)"}));
-    OpenExample("pivot-1978.cpd");
+    std::filesystem::remove(OpenExample("pivot-1978.cpd")); // the record in memory is what counts
     window.mnuViewReport_Click();
     window.cmdBtnGenerateReport_Click();
     EXPECT_EQ(Said(), (Lines{"show frmReport", "show frmReport"}));
@@ -437,6 +474,17 @@ TEST_F(FrmMain, AnExportThatFailsShowsTheBoxAndKeepsTheOldFile) {
     EXPECT_EQ(said[2], kFileSaveError);
 }
 
+TEST_F(FrmMain, AnErrorInTheSummaryShowsTheSameBox) {
+    Load();
+    OpenExample("pivot-1978.cpd");
+    PutContents(folder / "a.txt", "old");
+    surroundings.paths = {folder / "a.txt"};
+    surroundings.summaryError = ErrorNumber::TypeMismatch;
+    window.mnuExportSummary_Click();
+    EXPECT_EQ(Said().back(), kFileSaveError);
+    EXPECT_EQ(Contents(folder / "a.txt"), "old");
+}
+
 TEST_F(FrmMain, TheOtherCommandsShowTheirWindows) {
     window.mnuSoilIntake_Click();
     window.mnuUserSettings_Click();
@@ -472,10 +520,12 @@ TEST_F(FrmMain, AGivenFileIsOpenedAsItsExtensionSays) {
 TEST_F(FrmMain, AGivenFileThatIsNoneOrOfNoKindIsTold) {
     Load();
     PutContents(folder / "a.txt", "");
-    window.OpenGivenFile(folder / "none.cpd");
+    window.OpenGivenFile(folder / "none.txt");
+    window.OpenGivenFile(folder.Path());
     window.OpenGivenFile(folder / "a.txt");
     EXPECT_EQ(Said(),
-              (Lines{"box [Open File] The file none.cpd does not exist. (Ok)",
+              (Lines{In("box [Open File] There is no file ") + "/none.txt. (Ok)",
+                     In("box [Open File] There is no file ") + ". (Ok)",
                      "box [Open File] a.txt is neither a center pivot (*.cpd) nor a solid set (*.ssd) "
                      "data file. (Ok)"}));
     EXPECT_TRUE(Program().centerPivotFile.empty());

@@ -91,6 +91,9 @@ std::filesystem::path Surroundings::Browse(const std::string& title) {
 
 std::string Surroundings::BuildCenterPivotSummary() {
     Note("center-pivot summary");
+    if (summaryError) {
+        Raise(*summaryError);
+    }
     return "pivot\r\n";
 }
 

@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,9 @@ public:
 
     std::deque<Reply> replies;
     std::deque<std::filesystem::path> paths; // of file dialogs and the folder browser; empty: cancelled
+
+    // What calculating a summary raises.
+    std::optional<ErrorNumber> summaryError;
 
     void Note(const std::string& line) { log.push_back(line); }
     // The log since the last call.

@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 
 namespace orvel {
@@ -71,6 +72,13 @@ TEST_F(MainWindow, HasItsMenusInOrder) {
     EXPECT_EQ(Items(Menu("mnuWindow")), (Lines{"Data Entry | Ctrl+D", "View Report | Ctrl+R",
                                                "Soil Intake Settings", "User Settings"}));
     EXPECT_EQ(Items(Menu("mnuHelp")), (Lines{"Instructions | F1", "-", "About ORVEL"}));
+    for (const char* caption :
+         {"E&xit", "&Undo", "Cu&t", "&Copy", "&Paste", "Paste &Special...", "&About ORVEL"}) {
+        const QList<QAction*> all = window.findChildren<QAction*>();
+        EXPECT_TRUE(std::any_of(all.begin(), all.end(), [&](const QAction* each) {
+            return each->text() == caption;
+        })) << caption;
+    }
 }
 
 TEST_F(MainWindow, NamesItsControlsAsTheProgramDoes) {
@@ -145,6 +153,10 @@ TEST_F(MainWindow, TheButtonsDoWhatTheyAreFor) {
     EXPECT_EQ(Said().size(), 2U);
     Click("cmdBtnGenerateReport");
     EXPECT_EQ(Said().size(), 1U);
+    window.OpenGivenFile(testing::Example("pivot-1978.cpd"));
+    surroundings.replies = {Reply::No};
+    Click("cmdBtnOpenFile");
+    EXPECT_EQ(Said(), (Lines{"box [Open File] Close current file and open a new file? (YesNo)"}));
 }
 
 TEST_F(MainWindow, EveryMenuItemHasItsCommand) {
@@ -182,6 +194,14 @@ TEST_F(MainWindow, EveryMenuItemHasItsCommand) {
     surroundings.replies = {Reply::No, Reply::No};
     Find<QAction>(window, "mnuDataEntry").trigger();
     EXPECT_EQ(Said().size(), 2U);
+}
+
+TEST_F(MainWindow, SaveWritesTheOpenTest) {
+    std::filesystem::copy_file(testing::Example("pivot-1978.cpd"), folder / "a.cpd");
+    window.OpenGivenFile(folder / "a.cpd");
+    Program().centerPivotTest.ClientName = "Somebody else";
+    QTest::keyClick(&window, Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(testing::Contents(folder / "a.cpd").substr(0, 13), "Somebody else");
 }
 
 TEST_F(MainWindow, MenusOpenByKeyboard) {

@@ -43,9 +43,11 @@ TEST(ProgramOptions, TakesAFileAndAProgramDirectory) {
     const testing::TemporaryFolder folder;
     const Call call = CallWith({"a b.cpd", "--program-dir", folder.Path().c_str()});
     ASSERT_TRUE(call.options);
-    EXPECT_EQ(call.options->file, "a b.cpd");
+    EXPECT_EQ(call.options->file, std::filesystem::current_path() / "a b.cpd");
     EXPECT_EQ(call.options->programDirectory, folder.Path());
-    EXPECT_EQ(CallWith({"--", "-a.ssd"}).options->file, "-a.ssd");
+    EXPECT_EQ(CallWith({"--", "-a.ssd"}).options->file, std::filesystem::current_path() / "-a.ssd");
+    EXPECT_EQ(CallWith({"--program-dir", "."}).options->programDirectory, std::filesystem::current_path());
+    EXPECT_EQ(CallWith({"--program-dir", "/"}).options->programDirectory, "/");
 }
 
 TEST(ProgramOptions, HelpAndVersionArePrintedAndNothingStarts) {
@@ -56,14 +58,17 @@ TEST(ProgramOptions, HelpAndVersionArePrintedAndNothingStarts) {
     const Call help = CallWith({"--help"});
     EXPECT_FALSE(help.options);
     EXPECT_EQ(help.status, 0);
-    for (const char* part : {"[FILE]", "--program-dir FOLDER", "--version", "--help"}) {
+    for (const char* part : {"[FILE]", "--program-dir FOLDER ", "--version", "--help"}) {
         EXPECT_NE(help.out.find(part), std::string::npos) << help.out;
     }
 }
 
 TEST(ProgramOptions, AWrongCallIsOneLine) {
-    for (const auto& arguments : std::vector<std::vector<const char*>>{
-             {"--colour"}, {"a.cpd", "b.cpd"}, {"--program-dir", "/no/such/folder"}, {"--program-dir"}}) {
+    for (const auto& arguments : std::vector<std::vector<const char*>>{{"--colour"},
+                                                                       {"a.cpd", "b.cpd"},
+                                                                       {"--program-dir", "/no/such/folder"},
+                                                                       {""},
+                                                                       {"--program-dir"}}) {
         const Call call = CallWith(arguments);
         EXPECT_FALSE(call.options);
         EXPECT_EQ(call.status, 2);

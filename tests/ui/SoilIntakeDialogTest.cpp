@@ -45,6 +45,10 @@ TEST_F(SoilIntakeDialog, ShowsTheTableUnderItsLabels) {
         labels.push_back(label->text().toStdString());
     }
     EXPECT_EQ(labels, (Lines{"Soil Description", "Intake Rates", "Minimum", "Maximum"}));
+    const auto* minimum = dialog->findChildren<QLabel*>().at(2);
+    const auto* maximum = dialog->findChildren<QLabel*>().at(3);
+    EXPECT_LT(minimum->x(), Box("txtBoxMax1").x());
+    EXPECT_GE(maximum->geometry().right(), Box("txtBoxMax1").x());
     EXPECT_EQ(Box("txtBoxSoil1").text(), "Sand");
     EXPECT_EQ(Box("txtBoxMin6").text(), "0.75");
     EXPECT_EQ(Box("txtBoxMax6").text(), "1.25");
@@ -62,7 +66,9 @@ TEST_F(SoilIntakeDialog, CanBeUsedByKeyboardAndScreenReader) {
     }
     order.insert(order.end(), {"cmdBtnSave", "cmdBtnCancel"});
     EXPECT_EQ(TabOrder(*dialog), order);
+    EXPECT_EQ(Box("txtBoxSoil2").accessibleName(), "Soil Description, row 2");
     EXPECT_EQ(Box("txtBoxMin3").accessibleName(), "Minimum, row 3");
+    EXPECT_EQ(Box("txtBoxMax7").accessibleName(), "Maximum, row 7");
 }
 
 TEST_F(SoilIntakeDialog, ARateBoxTakesDigitsAndPointsOnly) {
@@ -75,6 +81,21 @@ TEST_F(SoilIntakeDialog, ARateBoxTakesDigitsAndPointsOnly) {
     QTest::keyClick(&box, Qt::Key_Home);
     QTest::keyClick(&box, Qt::Key_Delete);
     EXPECT_EQ(box.text(), "..");
+}
+
+TEST_F(SoilIntakeDialog, EveryRateBoxDropsLetters) {
+    for (const char* row : {"1", "2", "3", "4", "5", "6", "7"}) {
+        for (const char* name : {"txtBoxMin", "txtBoxMax"}) {
+            QLineEdit& box = Box(std::string(name) + row);
+            const QString before = box.text();
+            beeper.Expect(4);
+            QTest::keyClick(&box, Qt::Key_X, Qt::AltModifier);
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(QChar(0xAD)), Qt::NoModifier);
+            QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(QChar(0xE000)), Qt::NoModifier);
+            QTest::keyClicks(&box, "e");
+            EXPECT_EQ(box.text(), before) << box.objectName().toStdString();
+        }
+    }
 }
 
 TEST_F(SoilIntakeDialog, ShortcutsPassTheKeyFilter) {
@@ -95,6 +116,16 @@ TEST_F(SoilIntakeDialog, ALongNameIsCutWhileItIsTyped) {
     QTest::keyClicks(&box, "1");
     EXPECT_EQ(surroundings.Said(), (Lines{"box [Input Error] Maximim Characters in this field is 20 (Ok)"}));
     EXPECT_EQ(box.text(), "12345678901234567890");
+}
+
+TEST_F(SoilIntakeDialog, ANameCutInItsMiddleLeavesTheCursorThere) {
+    QLineEdit& box = Box("txtBoxSoil1");
+    Retype(box, "12345678901234567890");
+    box.setCursorPosition(3);
+    QTest::keyClicks(&box, "x");
+    EXPECT_EQ(box.text(), "123x4567890123456789");
+    EXPECT_EQ(box.cursorPosition(), 4);
+    EXPECT_EQ(surroundings.Said().size(), 1U);
 }
 
 TEST_F(SoilIntakeDialog, SavesTheTable) {

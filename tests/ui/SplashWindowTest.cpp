@@ -25,8 +25,13 @@ TEST_F(SplashAndAbout, TheSplashWindowShowsTheVersionAndIsNotAlwaysOnTop) {
     QTest::mouseClick(&Find<QLabel>(splash, "imgLogo"), Qt::LeftButton);
     EXPECT_TRUE(splash.isVisible());
     EXPECT_EQ(closings, 0);
+    EXPECT_EQ(splash.windowTitle(), "ORVEL");
+    EXPECT_TRUE(splash.windowFlags().testFlag(Qt::WindowCloseButtonHint));
     splash.close();
     EXPECT_EQ(closings, 1);
+    splash.show();
+    QTest::keyClick(&splash, Qt::Key_Escape);
+    EXPECT_EQ(closings, 2);
 }
 
 TEST_F(SplashAndAbout, TheAboutBoxClosesByItsButtonAndByEscape) {
@@ -34,6 +39,10 @@ TEST_F(SplashAndAbout, TheAboutBoxClosesByItsButtonAndByEscape) {
     EXPECT_EQ(about.windowTitle(), "About ORVEL");
     EXPECT_EQ(Find<QLabel>(about, "lblTitle").text(), "ORVEL");
     EXPECT_EQ(Find<QLabel>(about, "lblVersion").text().toStdString(), VersionText());
+    EXPECT_EQ(Find<QLabel>(about, "lblDescription").text(),
+              "Evaluates field irrigation systems from catch-can tests.");
+    EXPECT_EQ(Find<QLabel>(about, "lblLicence").text(), "Copyright 2026 The ORVEL developers. MIT licence.");
+    EXPECT_EQ(Find<QPushButton>(about, "cmdOK").text(), "OK");
     ShowActive(about);
     ExpectReachable(about);
     QTest::mouseClick(&Find<QPushButton>(about, "cmdOK"), Qt::LeftButton);

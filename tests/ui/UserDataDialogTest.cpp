@@ -10,6 +10,7 @@
 
 #include <QPushButton>
 #include <QTest>
+#include <map>
 
 namespace orvel {
 
@@ -37,15 +38,22 @@ TEST_F(UserDataDialog, NamesItsControlsInReadingOrder) {
     EXPECT_EQ(TabOrder(dialog),
               (Lines{"txtBoxName", "txtBoxCompany", "txtBoxAddress", "txtBoxCityStateZip", "txtBoxPhone",
                      "txtBoxEMail", "txtBoxDefaultDirectory", "cmdBtnBrowse", "cmdBtnSave", "cmdBtnCancel"}));
-    Lines labels;
+    std::map<std::string, std::string> labels; // by the control's name
     for (const QLabel* label : dialog.findChildren<QLabel*>()) {
-        labels.push_back(label->text().remove('&').toStdString());
         ASSERT_NE(label->buddy(), nullptr);
-        EXPECT_EQ(label->buddy()->accessibleName().toStdString(), labels.back());
+        labels[label->buddy()->objectName().toStdString()] = label->text().remove('&').toStdString();
     }
-    EXPECT_EQ(std::set<std::string>(labels.begin(), labels.end()),
-              (std::set<std::string>{"Name:", "Company or Title:", "Address:", "City, State, Zip:",
-                                     "Telephone:", "E-Mail:", "Default Directory:"}));
+    EXPECT_EQ(labels, (std::map<std::string, std::string>{{"txtBoxName", "Name:"},
+                                                          {"txtBoxCompany", "Company or Title:"},
+                                                          {"txtBoxAddress", "Address:"},
+                                                          {"txtBoxCityStateZip", "City, State, Zip:"},
+                                                          {"txtBoxPhone", "Telephone:"},
+                                                          {"txtBoxEMail", "E-Mail:"},
+                                                          {"txtBoxDefaultDirectory", "Default Directory:"}}));
+    for (const auto& [control, label] : labels) {
+        EXPECT_EQ(Find<QLineEdit>(dialog, control).accessibleName().toStdString(), label);
+    }
+    EXPECT_TRUE(Find<QPushButton>(dialog, "cmdBtnSave").isDefault());
     EXPECT_EQ(Find<QPushButton>(dialog, "cmdBtnBrowse").text().remove('&'), "Browse...");
     EXPECT_EQ(Find<QPushButton>(dialog, "cmdBtnSave").text().remove('&'), "Save");
     EXPECT_EQ(Find<QPushButton>(dialog, "cmdBtnCancel").text().remove('&'), "Cancel");

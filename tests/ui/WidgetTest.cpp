@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <map>
@@ -94,7 +95,12 @@ void WhileModal(const std::function<void()>& action, const std::function<void(QW
         if (QWidget* window = QApplication::activeModalWidget(); window != nullptr && window->isVisible()) {
             timer.stop();
             isHandled = true;
+            const QPointer<QWidget> shown = window;
             handler(*window);
+            if (shown != nullptr && shown->isVisible()) {
+                ADD_FAILURE() << "the modal window was left open";
+                shown->close();
+            }
         }
     });
     timer.start(0);
