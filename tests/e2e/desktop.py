@@ -42,7 +42,8 @@ class Desktop:
         self.home.cleanup()
 
     def open(self, command):
-        """Starts the program that everything else is about."""
+        """Starts the program that everything else is about, in place of the one before."""
+        self.end()
         self.program = self._run(*command, stderr=subprocess.PIPE)
 
     def end(self):

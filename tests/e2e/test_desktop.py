@@ -8,6 +8,7 @@
 import os
 import pathlib
 import struct
+import subprocess
 import sys
 import tempfile
 import time
@@ -16,6 +17,7 @@ import unittest
 from desktop import Desktop
 
 PROGRAM = sys.argv.pop(1)
+VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
 EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "examples"
 
 
@@ -74,9 +76,44 @@ class DesktopTest(unittest.TestCase):
         desktop.type_into("File name:", "new.cpd\n")
         desktop.wait_for_text("File: new.cpd")
 
+        desktop.choose("Window", "Data Entry")
+        desktop.wait_for_text("The data window is not part of this version yet.")
+        desktop.press("OK")
+        desktop.choose("Help", "About ORVEL")
+        desktop.wait_for_text(VERSION)
+        desktop.press("OK")
         desktop.keys("ctrl+q")
         self.assertEqual(desktop.status(), 0)
         self.assertEqual(new.read_bytes(), record)
+
+    def test_an_open_test_is_exported_and_saved(self):
+        for example, beginning in [("pivot-1978.cpd", b"1,185,0.56\r\n2,207.5,0.64\r\n"),
+                                   ("solid-set-1997.ssd", b"1,1,0.57\r\n1,2,0.69\r\n")]:
+            with self.subTest(example):
+                test, summary = self.folder / example, self.folder / "summary.txt"
+                test.write_bytes((EXAMPLES / example).read_bytes())
+                self.program(test)
+                desktop.wait_for_text("File: " + example)
+                desktop.choose("File", "Export Summary")
+                desktop.type_into("File name:", "summary.txt\n")
+                desktop.wait_until_gone("File name:")
+                self.assertEqual(summary.read_bytes()[:len(beginning)], beginning)
+                self.assertEqual(summary.read_bytes()[-4:], b"\r\n\r\n")
+                summary.unlink()
+                test.unlink()
+                desktop.choose("File", "Save Current Information")
+                desktop.keys("ctrl+q")
+                self.assertEqual(desktop.status(), 0)
+                # kept: a solid-set test is not saved here.
+                self.assertEqual(test.exists(), test.suffix == ".cpd")
+
+    def test_without_a_display_there_is_one_line(self):
+        for change in [{"DISPLAY": ""}, {"DISPLAY": ":9999"}, {"QT_QPA_PLATFORM": "none"}]:
+            with self.subTest(change):
+                run = subprocess.run([PROGRAM], env=os.environ | change, capture_output=True, text=True, check=False)
+                self.assertEqual(run.stderr, "orvel: no window can be shown here; orvel-cli needs none\n")
+                self.assertEqual(run.returncode, 1)
+                subprocess.run([PROGRAM, "--help"], env=os.environ | change, capture_output=True, check=True)
 
     def test_a_disk_that_fills_up_is_told(self):
         old = self.folder / "old.ssd"
@@ -121,7 +158,7 @@ class DesktopTest(unittest.TestCase):
 
     def test_a_file_that_is_missing_is_told(self):
         self.program(self.folder / "none.cpd")
-        desktop.wait_for_text("The file none.cpd does not exist.")
+        desktop.wait_for_text(f"There is no file {self.folder}/none.cpd.")
         desktop.press("OK")
         desktop.wait_for_text("Open or Create New Data File to Begin")
 
@@ -129,7 +166,7 @@ class DesktopTest(unittest.TestCase):
         self.settings.unlink()
         self.program()
         desktop.find("User Settings Error", "alert")
-        self.assertTrue(desktop.is_there("Version 0.1.0", "label"), "the splash window is still shown")
+        self.assertTrue(desktop.is_there(VERSION, "label"), "the splash window is still shown")
         desktop.press("OK")
         desktop.wait_for_text("Open or Create New Data File to Begin")
         self.assertEqual(self.settings.read_bytes(), b" " * 300 + text(str(self.folder), 50) + b"\0\0")

@@ -51,6 +51,7 @@ TEST_F(FileDialogs, ADialogShowsWhatItIsAskedFor) {
                [&](QWidget& window) {
                    auto& dialog = dynamic_cast<QFileDialog&>(window);
                    EXPECT_EQ(dialog.windowTitle(), "Save it");
+                   EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog));
                    EXPECT_EQ(dialog.nameFilters(), QStringList{"All Files (*.cpd)"});
                    EXPECT_EQ(dialog.directory().path().toStdString(), folder.Path().native());
                    const auto* files = Find<QTreeView>(dialog, "treeView").model();
@@ -122,11 +123,24 @@ TEST_F(FileDialogs, OpensAFile) {
     EXPECT_EQ(path, folder / "TEST.CPD");
 }
 
+TEST_F(FileDialogs, OpensNothingThatIsNotThere) {
+    const FileDialog request{"Open it", "All Files (*.cpd)|*.cpd", "cpd", folder.Path(), kHideReadOnly};
+    WhileModal([&] { EXPECT_EQ(QtFileDialogs().Open(request), ""); },
+               [&](QWidget& dialog) {
+                   WhileModal([&] { Type(dialog, "gone.cpd"); },
+                              [](QWidget& complaint) { complaint.close(); });
+                   QTest::keyClick(&dialog, Qt::Key_Escape);
+               });
+}
+
 TEST_F(FileDialogs, BrowsesForAFolder) {
     std::filesystem::path path;
     WhileModal([&] { path = QtFolderBrowser().Browse("Choose"); },
-               [&](QWidget& dialog) {
+               [&](QWidget& window) {
+                   auto& dialog = dynamic_cast<QFileDialog&>(window);
                    EXPECT_EQ(dialog.windowTitle(), "Choose");
+                   EXPECT_TRUE(dialog.testOption(QFileDialog::ShowDirsOnly));
+                   EXPECT_TRUE(dialog.testOption(QFileDialog::DontUseNativeDialog));
                    Type(dialog, folder.Path());
                });
     EXPECT_EQ(path, folder.Path());

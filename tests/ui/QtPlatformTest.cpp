@@ -76,6 +76,41 @@ TEST_F(QtServices, AMessageBoxAnswersWithItsButton) {
     }
 }
 
+TEST_F(QtServices, AMessageBoxShowsItsIcon) {
+    QtMessageBox service;
+    for (const auto& [icon, shown] : std::initializer_list<std::pair<Icon, QMessageBox::Icon>>{
+             {Icon::None, QMessageBox::NoIcon},
+             {Icon::Critical, QMessageBox::Critical},
+             {Icon::Question, QMessageBox::Question},
+             {Icon::Information, QMessageBox::Information},
+             {Icon::Warning, QMessageBox::Warning}}) {
+        WhileModal(
+            [&, asked = icon] {
+                service.Show({"Text", "Title", Buttons::Ok, asked});
+            },
+            [&, expected = shown](QWidget& window) {
+                EXPECT_EQ(dynamic_cast<QMessageBox&>(window).icon(), expected);
+                window.close();
+            });
+    }
+}
+
+TEST_F(QtServices, AMessageBoxBelongsToTheModalWindowThatIsOpen) {
+    QDialog dialog;
+    WhileModal([&] { dialog.exec(); },
+               [](QWidget& open) {
+                   WhileModal(
+                       [] {
+                           QtMessageBox().Show({"Text", "Title", Buttons::Ok, Icon::None});
+                       },
+                       [&](QWidget& box) {
+                           EXPECT_EQ(box.parentWidget(), &open);
+                           box.close();
+                       });
+                   open.close();
+               });
+}
+
 TEST_F(QtServices, AMessageBoxBelongsToTheWindowInFront) {
     QWidget window;
     ShowActive(window);
@@ -123,6 +158,7 @@ TEST_F(QtServices, SettingsAreKeptByTheirKey) {
     QtSettingsStore().Save("Settings", "MainLeft", "12.5");
     EXPECT_EQ(QtSettingsStore().Get("Settings", "MainLeft", "1000"), "12.5");
     EXPECT_EQ(QtSettingsStore().Get("Settings", "MainTop", "1000"), "1000");
+    EXPECT_EQ(QtSettingsStore().Get("Others", "MainLeft", "1000"), "1000");
 }
 
 TEST_F(QtServices, TheClockTellsTheLocalTime) {

@@ -23,14 +23,14 @@ public:
 TEST(UncaughtErrorDeathTest, AnErrorThatNobodyTrappedIsShownAndEndsTheProgram) {
     PrintingMessageBox box;
     UsePlatform({.messageBox = &box});
-    EXPECT_EXIT(Run([] { Raise(ErrorNumber::DiskFull); }), ::testing::ExitedWithCode(1),
+    EXPECT_EXIT(ui::Run([] { Raise(ErrorNumber::DiskFull); }), ::testing::ExitedWithCode(1),
                 "^box \\[ORVEL\\] Run-time error '61':\\|\\|Disk full \\(Ok, Critical\\)$");
     UsePlatform({});
 }
 
 TEST(UncaughtError, AnEventWithoutAnErrorJustRuns) {
     bool hasRun = false;
-    Run([&] { hasRun = true; });
+    ui::Run([&] { hasRun = true; });
     EXPECT_TRUE(hasRun);
 }
 
