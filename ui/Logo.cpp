@@ -8,6 +8,7 @@
 
 // The linker leaves out the resources of a static library that nobody names. The macro wants no namespace
 // around it.
+// NOLINTNEXTLINE(misc-use-anonymous-namespace)
 static void NameResources() {
     Q_INIT_RESOURCE(orvel);
 }

@@ -145,6 +145,7 @@ QWidget* MainWindow::NewStep(const char* name, const char* caption, const std::v
     constexpr int kMargin = 12;
     auto* layout = new QGridLayout(frame);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setHorizontalSpacing(kMargin);
     for (int column = 0; column < kColumns; ++column) {
         layout->setColumnStretch(column, 1);
         layout->setColumnMinimumWidth(column, kColumnWidth);
@@ -154,7 +155,7 @@ QWidget* MainWindow::NewStep(const char* name, const char* caption, const std::v
         layout->addWidget(control, 0, column++);
     }
     if (column < kColumns) {
-        layout->addItem(new QSpacerItem(0, 0), 0, column);
+        layout->addWidget(new QWidget, 0, column);
     }
     return frame;
 }
