@@ -5,7 +5,7 @@
     with Desktop() as desktop:
         desktop.open(["build/dev/ui/orvel"])
         desktop.choose("File", "New Client")
-        desktop.type_into("File name:", "/tmp/new.cpd\\n")
+        desktop.type_into("File name:", "new\\n")
         desktop.end()
 
 Controls are known by their accessible names. Whatever is looked for is waited for. There can be one desktop in a
