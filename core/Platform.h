@@ -89,8 +89,8 @@ public:
 class KeySender {
 public:
     virtual ~KeySender() = default;
-    // Presses keys as if typed into the control that has the focus: "^Z" is Ctrl+Z.
-    virtual void Send(std::string_view keys) = 0;
+    // Presses Ctrl and the letter as if typed into the control that has the focus.
+    virtual void SendCtrl(char letter) = 0;
 };
 
 // Texts that are kept for each user, under the application's title.

@@ -35,6 +35,7 @@ constexpr TestFileKind kCenterPivotKind = {
     .file = &ProgramState::centerPivotFile,
     .read = Read<&ProgramState::centerPivotTest>,
     .write = Write<&ProgramState::centerPivotTest>,
+    .blank = [] { Program().centerPivotTest = {}; },
     .makeNew = [] { Program().centerPivotTest = NewCenterPivotTest(); },
 };
 
@@ -48,8 +49,14 @@ constexpr TestFileKind kSolidSetKind = {
     .file = &ProgramState::solidSetFile,
     .read = Read<&ProgramState::solidSetTest>,
     .write = Write<&ProgramState::solidSetTest>,
+    .blank = [] { Program().solidSetTest = {}; },
     .makeNew = [] { Program().solidSetTest = NewSolidSetTest(); },
 };
+
+void Close(const TestFileKind& kind) {
+    kind.blank();
+    (Program().*kind.file).clear();
+}
 
 // Writes, and tells the user when that fails.
 bool TryToWrite(const fs::path& path) {
@@ -74,11 +81,8 @@ const fs::path& CurrentFile() {
 }
 
 void CloseTestFile() {
-    ProgramState& program = Program();
-    program.centerPivotTest = {};
-    program.solidSetTest = {};
-    program.centerPivotFile.clear();
-    program.solidSetFile.clear();
+    Close(kCenterPivotKind);
+    Close(kSolidSetKind);
 }
 
 void OpenTestFile(const fs::path& path) {
@@ -106,16 +110,9 @@ bool SaveTestFileAs(const fs::path& path) {
     if (!TryToWrite(path)) {
         return false;
     }
-    // What was open of the other kind is closed.
-    ProgramState& program = Program();
-    if (program.testKind == kSolidSet) {
-        program.centerPivotTest = {};
-        program.centerPivotFile.clear();
-    } else {
-        program.solidSetTest = {};
-        program.solidSetFile.clear();
-    }
-    program.*CurrentKind().file = path;
+    const TestFileKind& kind = CurrentKind();
+    Close(&kind == &kCenterPivotKind ? kSolidSetKind : kCenterPivotKind);
+    Program().*kind.file = path;
     return true;
 }
 

@@ -22,7 +22,8 @@ struct TestFileKind {
     // Between the program's record and a file; failures raise RunTimeError.
     void (*read)(const std::filesystem::path& path);
     void (*write)(const std::filesystem::path& path);
-    // The record of a new test in place of the program's.
+    // A blank record, or that of a new test, in place of the program's.
+    void (*blank)();
     void (*makeNew)();
 };
 

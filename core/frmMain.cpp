@@ -26,8 +26,8 @@ void Tell(const std::string& text, const char* title) {
     CurrentPlatform().messageBox->Show({text, title, Buttons::Ok, Icon::None});
 }
 
-void SendKeys(std::string_view keys) {
-    CurrentPlatform().keySender->Send(keys);
+void SendCtrl(char letter) {
+    CurrentPlatform().keySender->SendCtrl(letter);
 }
 
 } // namespace
@@ -143,19 +143,19 @@ void frmMain::mnuFileExit_Click() {
 }
 
 void frmMain::mnuEditUndo_Click() {
-    SendKeys("^Z");
+    SendCtrl('Z');
 }
 
 void frmMain::mnuEditCut_Click() {
-    SendKeys("^X");
+    SendCtrl('X');
 }
 
 void frmMain::mnuEditCopy_Click() {
-    SendKeys("^C");
+    SendCtrl('C');
 }
 
 void frmMain::mnuEditPaste_Click() {
-    SendKeys("^V");
+    SendCtrl('V');
 }
 
 void frmMain::mnuDataEntry_Click() {
@@ -226,11 +226,12 @@ void frmMain::OpenGivenFile(const fs::path& path) {
         Tell(FileNameText(path) + " is neither a center pivot (*.cpd) nor a solid set (*.ssd) data file.",
              "Open File");
     } else {
-        Program().testKind = isCenterPivot ? kCenterPivot : kSolidSet;
         if (isCenterPivot) {
             view.CheckOptBtnCenterPivot();
+            OptBtnCenterPivot_Click();
         } else {
             view.CheckOptBtnSolidSet();
+            OptBtnSolidSet_Click();
         }
         OpenFile(path);
     }

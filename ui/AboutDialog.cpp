@@ -10,7 +10,7 @@
 
 namespace orvel::ui {
 
-AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent), Form(static_cast<const QWidget&>(*this)) {
+AboutDialog::AboutDialog(QWidget* parent) : QDialog(parent), Form(this) {
     constexpr int kLogoSize = 96;
     setObjectName("frmAbout");
     setWindowTitle("About ORVEL");

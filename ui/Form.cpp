@@ -13,8 +13,8 @@ namespace orvel::ui {
 namespace {
 
 template <class Control>
-Control* Find(const QWidget& window, std::string_view name) {
-    return window.findChild<Control*>(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+Control* Find(const QWidget* window, std::string_view name) {
+    return window->findChild<Control*>(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
 }
 
 } // namespace

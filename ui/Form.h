@@ -18,13 +18,13 @@ namespace orvel::ui {
 // derives from it beside its widget and passes itself.
 class Form : public FormView {
 public:
-    explicit Form(const QWidget& window) : widget(window) {}
+    explicit Form(const QWidget* window) : widget(window) {}
 
     [[nodiscard]] std::string Text(std::string_view control) const override;
     void SetText(std::string_view control, const std::string& text) override;
 
 private:
-    const QWidget& widget;
+    const QWidget* widget;
 };
 
 // Controls with a name for the program and one for screen readers; a label is a buddy's.

@@ -104,8 +104,7 @@ void MainWindow::AddMenu(const char* name, const char* caption, const std::vecto
         action->setObjectName(item.name);
         // The desktop's own ideas of where an entry belongs are not asked.
         action->setMenuRole(QAction::NoRole);
-        connect(action, &QAction::triggered, this,
-                [this, handler = item.handler] { Run([this, handler] { (logic.*handler)(); }); });
+        connect(action, &QAction::triggered, this, Event(item.handler));
     }
 }
 
@@ -165,17 +164,19 @@ QRadioButton* MainWindow::NewOption(const char* name, const char* caption, Handl
     option->setObjectName(name);
     // No wider than its caption, so that a click anywhere in it counts.
     option->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    connect(option, &QRadioButton::clicked, this,
-            [this, handler] { Run([this, handler] { (logic.*handler)(); }); });
+    connect(option, &QRadioButton::clicked, this, Event(handler));
     return option;
 }
 
 QWidget* MainWindow::NewButton(const char* name, const char* caption, Handler handler) {
     auto* button = new QPushButton(caption);
     button->setObjectName(name);
-    connect(button, &QPushButton::clicked, this,
-            [this, handler] { Run([this, handler] { (logic.*handler)(); }); });
+    connect(button, &QPushButton::clicked, this, Event(handler));
     return button;
+}
+
+std::function<void()> MainWindow::Event(Handler handler) {
+    return [this, handler] { Run([this, handler] { (logic.*handler)(); }); };
 }
 
 void MainWindow::SetStatusText(const std::string& text) {

@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QRadioButton>
+#include <functional>
+#include <vector>
 
 namespace orvel::ui {
 
@@ -33,6 +35,8 @@ private:
         Handler handler = nullptr;
     };
 
+    // What a control's signal is connected to.
+    std::function<void()> Event(Handler handler);
     void AddMenu(const char* name, const char* caption, const std::vector<MenuItem>& items);
     void AddMenus();
     QWidget* NewSteps();

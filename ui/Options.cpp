@@ -30,8 +30,8 @@ std::optional<Options> ReadOptions(int argc, const char* const* argv, int& statu
     app.set_version_flag("--version", std::string("orvel ") + ProgramVersion());
     app.add_option("FILE", file, "A test file to open, .cpd or .ssd")
         ->type_name("")
-        ->check(
-            CLI::Validator([](const std::string& name) { return name.empty() ? "FILE is empty" : ""; }, ""));
+        ->check(CLI::Validator(
+            [](const std::string& name) { return name.empty() ? "must not be empty" : ""; }, ""));
     app.add_option("--program-dir", options.programDirectory,
                    "Where user.usr, soil.dat and help.rtf are (default: the program's folder)")
         ->type_name("FOLDER")

@@ -124,20 +124,13 @@ QtKeySender::QtKeySender() {
     });
 }
 
-void QtKeySender::Send(std::string_view keys) {
-    if (lastControl == nullptr) {
-        return;
-    }
-    const bool isControl = keys.starts_with('^');
-    const QChar letter = QLatin1Char(keys.back());
-    const Qt::KeyboardModifiers modifiers = isControl ? Qt::ControlModifier : Qt::NoModifier;
-    const QString text = isControl ? QString{} : QString(letter);
-    const int key = letter.toUpper().unicode();
-    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-    QCoreApplication::sendEvent(lastControl, &press);
-    if (lastControl != nullptr) {
-        QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
-        QCoreApplication::sendEvent(lastControl, &release);
+void QtKeySender::SendCtrl(char letter) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        // The press may have been the control's end.
+        if (lastControl != nullptr) {
+            QKeyEvent event(type, letter, Qt::ControlModifier);
+            QCoreApplication::sendEvent(lastControl, &event);
+        }
     }
 }
 

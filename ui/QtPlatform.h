@@ -37,7 +37,7 @@ public:
 class QtKeySender : public QObject, public KeySender {
 public:
     QtKeySender();
-    void Send(std::string_view keys) override;
+    void SendCtrl(char letter) override;
 
 private:
     QPointer<QWidget> lastControl;

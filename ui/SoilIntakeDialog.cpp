@@ -23,8 +23,7 @@ QLineEdit* NewRateBox(const std::string& name, const QString& accessibleName) {
 
 } // namespace
 
-SoilIntakeDialog::SoilIntakeDialog(QWidget* parent)
-    : QDialog(parent), Form(static_cast<const QWidget&>(*this)) {
+SoilIntakeDialog::SoilIntakeDialog(QWidget* parent) : QDialog(parent), Form(this) {
     setObjectName("frmSoilIntake");
     setWindowTitle("Soil Intake Rates");
     auto* layout = new QVBoxLayout(this);

@@ -14,7 +14,7 @@ namespace orvel::ui {
 SplashWindow::SplashWindow(std::function<void()> onClose)
     : QWidget(nullptr,
               Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      Form(static_cast<const QWidget&>(*this)), whenClosed(std::move(onClose)) {
+      Form(this), whenClosed(std::move(onClose)) {
     constexpr int kLogoSize = 128;
     constexpr int kMargin = 40;
     setObjectName("frmSplash");

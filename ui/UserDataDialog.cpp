@@ -21,7 +21,7 @@ constexpr std::array<const char*, frmUserData::kTextBoxes.size()> kLabels = {
 
 } // namespace
 
-UserDataDialog::UserDataDialog(QWidget* parent) : QDialog(parent), Form(static_cast<const QWidget&>(*this)) {
+UserDataDialog::UserDataDialog(QWidget* parent) : QDialog(parent), Form(this) {
     constexpr int kBoxWidth = 380;
     setObjectName("frmUserData");
     setWindowTitle("User Settings");

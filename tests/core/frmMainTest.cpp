@@ -51,8 +51,6 @@ protected:
         return file;
     }
 
-    Lines Said() { return surroundings.Said(); }
-
     [[nodiscard]] std::string In(const std::string& line) const { return line + folder.Path().native(); }
 
     TemporaryFolder folder;
@@ -502,7 +500,7 @@ TEST_F(FrmMain, EditCommandsAreKeysOfTheFocusedControl) {
     window.mnuEditCopy_Click();
     window.mnuEditPaste_Click();
     window.mnuEditPasteSpecial_Click();
-    EXPECT_EQ(Said(), (Lines{"keys ^Z", "keys ^X", "keys ^C", "keys ^V"}));
+    EXPECT_EQ(Said(), (Lines{"Ctrl+Z", "Ctrl+X", "Ctrl+C", "Ctrl+V"}));
 }
 
 TEST_F(FrmMain, AGivenFileIsOpenedAsItsExtensionSays) {

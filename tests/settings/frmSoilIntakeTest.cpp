@@ -20,7 +20,7 @@ using testing::ExpectRunTimeError;
 using testing::GermanNumbers;
 using testing::Lines;
 
-class FrmSoilIntake : public testing::WindowTest {
+class FrmSoilIntake : public testing::FormTest<frmSoilIntake> {
 protected:
     FrmSoilIntake() {
         Program().programDirectory = folder.Path();
@@ -32,14 +32,10 @@ protected:
         return form.Text(frmSoilIntake::SoilBox(row)) + " " + form.Text(frmSoilIntake::MinBox(row)) + " " +
                form.Text(frmSoilIntake::MaxBox(row));
     }
-    void Type(const char* control, const std::string& text) { form.texts.at(control) = text; }
     static SoilIntakeRow& Soil(std::size_t row) { return Program().soilIntakeTable.at(row); }
-    Lines Said() { return surroundings.Said(); }
     [[nodiscard]] std::string File() const { return Contents(folder / "soil.dat"); }
 
     testing::TemporaryFolder folder;
-    testing::FakeForm form{surroundings};
-    frmSoilIntake window{form};
     std::string before;
 };
 

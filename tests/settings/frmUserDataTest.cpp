@@ -25,7 +25,7 @@ constexpr const char* kNameMissing =
     "box [User Settings Error] You need to enter a name.||You Should Check Your Setup Information|"
     "You may also change the default file location.|Please choose 'User Settings' on the 'Window' menu. (Ok)";
 
-class FrmUserData : public testing::WindowTest {
+class FrmUserData : public testing::FormTest<frmUserData> {
 protected:
     FrmUserData() {
         Program().programDirectory = folder.Path();
@@ -38,13 +38,9 @@ protected:
         window.Form_Load();
     }
 
-    void Type(const char* control, const std::string& text) { form.texts.at(control) = text; }
-    Lines Said() { return surroundings.Said(); }
     [[nodiscard]] std::string File() const { return Contents(folder / "user.usr"); }
 
     testing::TemporaryFolder folder;
-    testing::FakeForm form{surroundings};
-    frmUserData window{form};
     std::string before;
 };
 

@@ -49,7 +49,7 @@ public:
     std::filesystem::path Open(const FileDialog& dialog) override;
     std::filesystem::path Save(const FileDialog& dialog) override;
     std::filesystem::path Browse(const std::string& title) override;
-    void Send(std::string_view keys) override { Note("keys " + std::string{keys}); }
+    void SendCtrl(char letter) override { Note(std::string("Ctrl+") + letter); }
 
     void ShowSplash() override { Note("show frmSplash"); }
     void UnloadSplash() override { Note("unload frmSplash"); }
@@ -92,7 +92,20 @@ class WindowTest : public LogicTest {
 protected:
     WindowTest();
 
+    // What the window did since the last call.
+    Lines Said() { return surroundings.Said(); }
+
     Surroundings surroundings;
+};
+
+// Tests of the logic of a window that is a form.
+template <class Window>
+class FormTest : public WindowTest {
+protected:
+    void Type(const char* control, const std::string& text) { form.texts.at(control) = text; }
+
+    FakeForm form{surroundings};
+    Window window{form};
 };
 
 } // namespace orvel::testing

@@ -63,6 +63,10 @@ TEST(ProgramOptions, HelpAndVersionArePrintedAndNothingStarts) {
     }
 }
 
+TEST(ProgramOptions, AnEmptyFileNameIsAWrongCall) {
+    EXPECT_EQ(CallWith({""}).err, "orvel: FILE: must not be empty\n");
+}
+
 TEST(ProgramOptions, AWrongCallIsOneLine) {
     for (const auto& arguments : std::vector<std::vector<const char*>>{{"--colour"},
                                                                        {"a.cpd", "b.cpd"},

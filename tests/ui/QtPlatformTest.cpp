@@ -134,23 +134,23 @@ TEST_F(QtServices, KeysGoToTheControlThatHadTheFocusLast) {
     ShowActive(window);
     box->setFocus();
     QTest::keyClicks(box, "abc");
-    sender.Send("^Z");
+    sender.SendCtrl('Z');
     EXPECT_EQ(box->text(), "");
     QTest::keyClicks(box, "12");
     box->selectAll();
-    sender.Send("^X");
+    sender.SendCtrl('X');
     EXPECT_EQ(box->text(), "");
     QTest::keyClick(&window, Qt::Key_E, Qt::AltModifier);
     ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    sender.Send("^V");
-    sender.Send("^V");
+    sender.SendCtrl('V');
+    sender.SendCtrl('V');
     EXPECT_EQ(box->text(), "1212");
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
 }
 
 TEST_F(QtServices, KeysWithoutAnyControlGoNowhere) {
     QtKeySender sender;
-    sender.Send("^Z");
+    sender.SendCtrl('Z');
 }
 
 TEST_F(QtServices, SettingsAreKeptByTheirKey) {
