@@ -90,9 +90,7 @@ void FillFromHex(std::string_view name, Bytes bytes, const Json& json) {
 }
 
 Json DumpText(ConstBytes bytes) {
-    std::string text(bytes.size(), ' ');
-    std::memcpy(text.data(), bytes.data(), bytes.size());
-    return ToUtf8(TrimRight(text));
+    return ToUtf8(TrimRight(TextOf(bytes)));
 }
 
 void BuildText(std::string_view name, Bytes bytes, const Json& json) {
@@ -110,9 +108,7 @@ void BuildText(std::string_view name, Bytes bytes, const Json& json) {
     if (const auto lacking = FirstLackingCharacter(utf8)) {
         Refuse(name, "has a character that the code page lacks: " + *lacking);
     }
-    const std::string text = FromUtf8(utf8);
-    std::ranges::fill(bytes, std::byte{' '});
-    std::memcpy(bytes.data(), text.data(), text.size());
+    PutText(bytes, FromUtf8(utf8));
 }
 
 Json DumpFlag(ConstBytes bytes) {

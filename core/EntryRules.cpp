@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/EntryRules.h"
 
+#include "core/Masks.h"
 #include "core/Platform.h"
+
+#include <cmath>
 
 namespace orvel {
 
@@ -28,6 +31,10 @@ int FilterNumericKey(int key) {
     }
     CurrentPlatform().beeper->Beep();
     return kDropped;
+}
+
+std::string RateText(float rate) {
+    return std::isfinite(rate) ? FormatMask(rate, "0.00") : std::string{};
 }
 
 } // namespace orvel

@@ -17,4 +17,8 @@ namespace orvel {
 // means dropped. kept: a second decimal point passes.
 [[nodiscard]] int FilterNumericKey(int key);
 
+// A soil's intake rate as the windows show it, with two decimals; nothing for what a damaged file has in
+// place of a number, so that it can be mended.
+[[nodiscard]] std::string RateText(float rate);
+
 } // namespace orvel

@@ -3,11 +3,9 @@
 #include "core/Listing.h"
 
 #include "core/RunTimeError.h"
-#include "core/Stored.h"
 #include "core/Text.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace orvel {
 
@@ -20,14 +18,10 @@ constexpr std::size_t kNumberColumns = 10;
 
 std::string ValueText(std::span<const std::byte> bytes, FieldKind kind) {
     if (kind == FieldKind::Text) {
-        std::string text(bytes.size(), ' ');
-        std::memcpy(text.data(), bytes.data(), bytes.size());
-        return std::string{Trim(text)};
+        return std::string{Trim(TextOf(bytes))};
     }
     if (kind == FieldKind::Flag) {
-        Flag flag;
-        std::memcpy(&flag, bytes.data(), sizeof flag);
-        return std::string{BooleanWord(flag.IsSet())};
+        return std::string{BooleanWord(FlagOf(bytes).IsSet())};
     }
     Raise(ErrorNumber::InvalidProcedureCall);
 }

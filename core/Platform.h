@@ -108,6 +108,8 @@ public:
     virtual ~EventPump() = default;
     // Handles the window events that wait. False when the program is to end.
     virtual bool ProcessEvents() = 0;
+    // Handles those of them that are no keys or clicks; these stay, in their order.
+    virtual void ProcessAllButInput() = 0;
 };
 
 // The services in force. Those that a routine uses must be set before it is called; the caller of UsePlatform

@@ -3,6 +3,7 @@
 #include "core/RecordLayout.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace orvel {
 
@@ -144,6 +145,29 @@ static_assert(offsetof(SolidSetGauge, Volume) == 12);
 static_assert(offsetof(SolidSetGauge, Spare) == 16);
 
 } // namespace
+
+std::string TextOf(std::span<const std::byte> bytes) {
+    std::string text(bytes.size(), ' ');
+    std::memcpy(text.data(), bytes.data(), bytes.size());
+    return text;
+}
+
+void PutText(std::span<std::byte> bytes, std::string_view text) {
+    std::ranges::fill(bytes, std::byte{' '});
+    std::memcpy(bytes.data(), text.data(), std::min(text.size(), bytes.size()));
+}
+
+Flag FlagOf(std::span<const std::byte> bytes) {
+    Flag flag;
+    std::memcpy(&flag, bytes.data(), sizeof flag);
+    return flag;
+}
+
+void PutFlag(std::span<std::byte> bytes, bool isSet) {
+    Flag flag;
+    flag = isSet;
+    std::memcpy(bytes.data(), &flag, sizeof flag);
+}
 
 bool AreAllZero(std::span<const std::byte> bytes) {
     return std::ranges::all_of(bytes, [](std::byte byte) { return byte == std::byte{0}; });

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 #include <type_traits>
 
@@ -177,6 +178,14 @@ template <class Record>
 auto FieldBytes(Record& record, const Field& field) {
     return AsBytes(record).subspan(field.offset, field.width);
 }
+
+// The bytes of a text field: all its characters; storing cuts or pads with blanks.
+[[nodiscard]] std::string TextOf(std::span<const std::byte> bytes);
+void PutText(std::span<std::byte> bytes, std::string_view text);
+
+// The bytes of a flag.
+[[nodiscard]] Flag FlagOf(std::span<const std::byte> bytes);
+void PutFlag(std::span<std::byte> bytes, bool isSet);
 
 [[nodiscard]] bool AreAllZero(std::span<const std::byte> bytes);
 

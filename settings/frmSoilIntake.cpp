@@ -3,23 +3,11 @@
 #include "settings/frmSoilIntake.h"
 
 #include "core/EntryRules.h"
-#include "core/Masks.h"
 #include "core/NumberText.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
 
-#include <cmath>
-
 namespace orvel {
-
-namespace {
-
-// A rate that a damaged file holds and that is no number shows as nothing, so that it can be mended.
-std::string RateText(float rate) {
-    return std::isfinite(rate) ? FormatMask(rate, "0.00") : std::string{};
-}
-
-} // namespace
 
 void frmSoilIntake::Form_Load() {
     for (std::size_t row = 1; row <= kSoilRows; ++row) {

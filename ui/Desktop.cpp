@@ -7,7 +7,9 @@
 #include "core/Version.h"
 #include "solidset/SolidSetSummary.h"
 #include "ui/AboutDialog.h"
+#include "ui/CenterPivotDataDialog.h"
 #include "ui/SoilIntakeDialog.h"
+#include "ui/SolidSetDataDialog.h"
 #include "ui/UncaughtError.h"
 #include "ui/UserDataDialog.h"
 
@@ -67,11 +69,11 @@ void Desktop::ShowMain() {
 }
 
 void Desktop::ShowCenterPivotData() {
-    SayMissing("The data window");
+    CenterPivotDataDialog(WindowInFront(), *this).exec();
 }
 
 void Desktop::ShowSolidSetData() {
-    SayMissing("The data window");
+    SolidSetDataDialog(WindowInFront(), *this).exec();
 }
 
 void Desktop::ShowUserData() {

@@ -5,32 +5,56 @@
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <algorithm>
 
 namespace orvel::ui {
 
 namespace {
 
-template <class Control>
-Control* Find(const QWidget* window, std::string_view name) {
-    return window->findChild<Control*>(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+// What stands in a cut text for half a line end would grow into a whole one.
+QString ToLines(const std::string& text) {
+    const bool endsInHalf = text.ends_with('\r');
+    QString lines = ToQt(endsInHalf ? std::string_view(text).substr(0, text.size() - 1) : text);
+    return lines.replace("\r\n", "\n").replace('\r', '\n');
+}
+
+void SetLines(QPlainTextEdit& box, const std::string& text) {
+    const int position = box.textCursor().position();
+    const QString lines = ToLines(text);
+    box.setPlainText(lines);
+    QTextCursor cursor = box.textCursor();
+    cursor.setPosition(std::min(position, static_cast<int>(lines.size())));
+    box.setTextCursor(cursor);
 }
 
 } // namespace
 
-std::string Form::Text(std::string_view control) const {
-    const auto* box = Find<QLineEdit>(widget, control);
-    return FromQt(box->text());
+std::string ControlText(const QWidget& window, std::string_view control) {
+    if (const auto* box = FindControl<QLineEdit>(window, control)) {
+        return FromQt(box->text());
+    }
+    if (const auto* lines = FindControl<QPlainTextEdit>(window, control)) {
+        return FromQt(lines->toPlainText().replace('\n', "\r\n"));
+    }
+    return FromQt(FindControl<QComboBox>(window, control)->currentText());
 }
 
-void Form::SetText(std::string_view control, const std::string& text) {
-    if (auto* box = Find<QLineEdit>(widget, control)) {
-        // The cursor stays where the user types.
+void SetControlText(const QWidget& window, std::string_view control, const std::string& text) {
+    if (auto* box = FindControl<QLineEdit>(window, control)) {
         const int cursor = box->cursorPosition();
         box->setText(ToQt(text));
         box->setCursorPosition(cursor);
-    } else if (auto* label = Find<QLabel>(widget, control)) {
+    } else if (auto* lines = FindControl<QPlainTextEdit>(window, control)) {
+        SetLines(*lines, text);
+    } else if (auto* list = FindControl<QComboBox>(window, control)) {
+        // Also a text that the list lacks.
+        list->setCurrentIndex(list->findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
+        list->setEditText(ToQt(text));
+    } else if (auto* label = FindControl<QLabel>(window, control)) {
         label->setText(ToQt(text));
     }
 }

@@ -14,18 +14,37 @@
 
 namespace orvel::ui {
 
-// The part of a form's view that all windows share: controls are found by their object names. A window
-// derives from it beside its widget and passes itself.
-class Form : public FormView {
-public:
-    explicit Form(const QWidget* window) : widget(window) {}
+// The text of the window's control of that name: a text box of one line or many, or a combo box. The line
+// ends of many lines are CR LF in the text; half of one, at the end, is dropped.
+[[nodiscard]] std::string ControlText(const QWidget& window, std::string_view control);
+// The same controls and labels. The cursor stays where the user types.
+void SetControlText(const QWidget& window, std::string_view control, const std::string& text);
 
-    [[nodiscard]] std::string Text(std::string_view control) const override;
-    void SetText(std::string_view control, const std::string& text) override;
+// A form's view as far as all windows share it: controls are found by their object names. A window derives
+// from it beside its widget and passes itself.
+template <class View>
+class FormOf : public View {
+public:
+    explicit FormOf(const QWidget* ofWindow) : window(*ofWindow) {}
+
+    [[nodiscard]] std::string Text(std::string_view control) const override {
+        return ControlText(window, control);
+    }
+
+    void SetText(std::string_view control, const std::string& text) override {
+        SetControlText(window, control, text);
+    }
 
 private:
-    const QWidget* widget;
+    const QWidget& window;
 };
+
+using Form = FormOf<FormView>;
+
+template <class Control>
+[[nodiscard]] Control* FindControl(const QWidget& window, std::string_view name) {
+    return window.findChild<Control*>(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+}
 
 // Controls with a name for the program and one for screen readers; a label is a buddy's.
 [[nodiscard]] QLabel* NewLabel(const char* name);

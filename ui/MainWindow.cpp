@@ -3,6 +3,7 @@
 #include "ui/MainWindow.h"
 
 #include "core/Version.h"
+#include "ui/Menus.h"
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
@@ -51,61 +52,49 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::AddMenus() {
     AddMenu(
-        "mnuFile", "&File",
+        *menuBar(), "mnuFile", "&File",
         {
-            {"mnuFileNew", "&New Client", QKeySequence::New, &frmMain::mnuFileNew_Click},
-            {"mnuFileOpen", "&Open Existing Client", QKeySequence::Open, &frmMain::mnuFileOpen_Click},
-            {"mnuFileClose", "&Close Current Client", QKeySequence("Ctrl+W"), &frmMain::mnuFileClose_Click},
+            {"mnuFileNew", "&New Client", QKeySequence::New, Event(&frmMain::mnuFileNew_Click)},
+            {"mnuFileOpen", "&Open Existing Client", QKeySequence::Open, Event(&frmMain::mnuFileOpen_Click)},
+            {"mnuFileClose", "&Close Current Client", QKeySequence("Ctrl+W"),
+             Event(&frmMain::mnuFileClose_Click)},
             {},
-            {"mnuFileSave", "&Save Current Information", QKeySequence::Save, &frmMain::mnuFileSave_Click},
+            {"mnuFileSave", "&Save Current Information", QKeySequence::Save,
+             Event(&frmMain::mnuFileSave_Click)},
             {"mnuFileSaveAs", "Save &As (Current Information)", QKeySequence("Ctrl+Shift+S"),
-             &frmMain::mnuFileSaveAs_Click},
+             Event(&frmMain::mnuFileSaveAs_Click)},
             {},
-            {"mnuExportSummary", "&Export Summary", QKeySequence("Ctrl+E"), &frmMain::mnuExportSummary_Click},
+            {"mnuExportSummary", "&Export Summary", QKeySequence("Ctrl+E"),
+             Event(&frmMain::mnuExportSummary_Click)},
             {},
-            {"mnuDataPrint", "&Print Data Summary", QKeySequence::Print, &frmMain::mnuDataPrint_Click},
+            {"mnuDataPrint", "&Print Data Summary", QKeySequence::Print, Event(&frmMain::mnuDataPrint_Click)},
             {},
-            {"mnuFileExit", "E&xit", QKeySequence("Ctrl+Q"), &frmMain::mnuFileExit_Click},
+            {"mnuFileExit", "E&xit", QKeySequence("Ctrl+Q"), Event(&frmMain::mnuFileExit_Click)},
         });
-    AddMenu("mnuEdit", "&Edit",
+    AddMenu(*menuBar(), "mnuEdit", "&Edit",
             {
-                {"mnuEditUndo", "&Undo", QKeySequence::Undo, &frmMain::mnuEditUndo_Click},
+                {"mnuEditUndo", "&Undo", QKeySequence::Undo, Event(&frmMain::mnuEditUndo_Click)},
                 {},
-                {"mnuEditCut", "Cu&t", QKeySequence::Cut, &frmMain::mnuEditCut_Click},
-                {"mnuEditCopy", "&Copy", QKeySequence::Copy, &frmMain::mnuEditCopy_Click},
-                {"mnuEditPaste", "&Paste", QKeySequence::Paste, &frmMain::mnuEditPaste_Click},
-                {"mnuEditPasteSpecial", "Paste &Special...", {}, &frmMain::mnuEditPasteSpecial_Click},
-            });
-    AddMenu("mnuWindow", "&Window",
-            {
-                {"mnuDataEntry", "&Data Entry", QKeySequence("Ctrl+D"), &frmMain::mnuDataEntry_Click},
-                {"mnuViewReport", "&View Report", QKeySequence("Ctrl+R"), &frmMain::mnuViewReport_Click},
-                {"mnuSoilIntake", "&Soil Intake Settings", {}, &frmMain::mnuSoilIntake_Click},
-                {"mnuUserSettings", "&User Settings", {}, &frmMain::mnuUserSettings_Click},
+                {"mnuEditCut", "Cu&t", QKeySequence::Cut, Event(&frmMain::mnuEditCut_Click)},
+                {"mnuEditCopy", "&Copy", QKeySequence::Copy, Event(&frmMain::mnuEditCopy_Click)},
+                {"mnuEditPaste", "&Paste", QKeySequence::Paste, Event(&frmMain::mnuEditPaste_Click)},
+                {"mnuEditPasteSpecial", "Paste &Special...", {}, Event(&frmMain::mnuEditPasteSpecial_Click)},
             });
     AddMenu(
-        "mnuHelp", "&Help",
+        *menuBar(), "mnuWindow", "&Window",
         {
-            {"mnuInstructions", "&Instructions", QKeySequence::HelpContents, &frmMain::mnuInstructions_Click},
-            {},
-            {"mnuHelpAbout", "&About ORVEL", {}, &frmMain::mnuHelpAbout_Click},
+            {"mnuDataEntry", "&Data Entry", QKeySequence("Ctrl+D"), Event(&frmMain::mnuDataEntry_Click)},
+            {"mnuViewReport", "&View Report", QKeySequence("Ctrl+R"), Event(&frmMain::mnuViewReport_Click)},
+            {"mnuSoilIntake", "&Soil Intake Settings", {}, Event(&frmMain::mnuSoilIntake_Click)},
+            {"mnuUserSettings", "&User Settings", {}, Event(&frmMain::mnuUserSettings_Click)},
         });
-}
-
-void MainWindow::AddMenu(const char* name, const char* caption, const std::vector<MenuItem>& items) {
-    QMenu* menu = menuBar()->addMenu(caption);
-    menu->setObjectName(name);
-    for (const MenuItem& item : items) {
-        if (item.name == nullptr) {
-            menu->addSeparator();
-            continue;
-        }
-        QAction* action = menu->addAction(item.caption, item.shortcut);
-        action->setObjectName(item.name);
-        // The desktop's own ideas of where an entry belongs are not asked.
-        action->setMenuRole(QAction::NoRole);
-        connect(action, &QAction::triggered, this, Event(item.handler));
-    }
+    AddMenu(*menuBar(), "mnuHelp", "&Help",
+            {
+                {"mnuInstructions", "&Instructions", QKeySequence::HelpContents,
+                 Event(&frmMain::mnuInstructions_Click)},
+                {},
+                {"mnuHelpAbout", "&About ORVEL", {}, Event(&frmMain::mnuHelpAbout_Click)},
+            });
 }
 
 QWidget* MainWindow::NewSteps() {

@@ -28,16 +28,8 @@ protected:
 private:
     using Handler = void (frmMain::*)();
 
-    struct MenuItem {
-        const char* name = nullptr; // of the action; none is a separator
-        const char* caption = nullptr;
-        QKeySequence shortcut;
-        Handler handler = nullptr;
-    };
-
     // What a control's signal is connected to.
     std::function<void()> Event(Handler handler);
-    void AddMenu(const char* name, const char* caption, const std::vector<MenuItem>& items);
     void AddMenus();
     QWidget* NewSteps();
     QWidget* NewStep(const char* name, const char* caption, const std::vector<QWidget*>& controls);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/NumericKeyFilter.h"
 
-#include "ui/TextEdge.h"
+#include "ui/Keys.h"
 #include "ui/UncaughtError.h"
 
 #include <QKeyEvent>
@@ -20,13 +20,12 @@ public:
             return false;
         }
         const auto* press = static_cast<QKeyEvent*>(event);
-        const QString text = press->text();
-        const bool isShortcut = (press->modifiers() & Qt::ControlModifier) != 0;
-        if (isShortcut || text.isEmpty() || text.at(0).category() == QChar::Other_Control) {
+        const int character = TypedCharacter(*press);
+        if (character == kNoCharacterTyped || press->text().at(0).category() == QChar::Other_Control) {
             return false;
         }
         int passed = 0;
-        Run([&] { passed = filter(static_cast<unsigned char>(FromQt(text).front())); });
+        Run([&] { passed = filter(character); });
         return passed == 0;
     }
 

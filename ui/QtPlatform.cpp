@@ -151,4 +151,8 @@ bool QtEventPump::ProcessEvents() {
     return !isEnding;
 }
 
+void QtEventPump::ProcessAllButInput() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 } // namespace orvel::ui

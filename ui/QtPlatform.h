@@ -52,6 +52,7 @@ public:
 class QtEventPump : public EventPump {
 public:
     bool ProcessEvents() override;
+    void ProcessAllButInput() override;
     // From now on ProcessEvents says that the program is to end.
     void End() { isEnding = true; }
 

@@ -31,6 +31,8 @@ public:
         ++rounds;
         return rounds < mostRounds;
     }
+
+    void ProcessAllButInput() override { ADD_FAILURE() << "the splash window must be closable meanwhile"; }
 };
 
 class StartingUp : public testing::WindowTest {

@@ -87,6 +87,11 @@ class Desktop:
         self._click(self.find(item, "menu item"))
         self._wait(lambda: not self.is_there(item, "menu item"), "the menu to close")
 
+    def select(self, name, number):
+        """Chooses the entry of a combo box that is so many steps below the text it shows."""
+        self._click(self.find(name, "text"))
+        self.keys(*["Down"] * number)
+
     def type_into(self, name, text):
         """Replaces the text of a text box; "\\n" presses Return."""
         self._click(self.find(name, "text"))
@@ -96,8 +101,8 @@ class Desktop:
     def type(self, text):
         self._xdotool("type", "--delay", "5", text.replace("\n", "\r"))
 
-    def keys(self, *names):
-        self._xdotool("key", "--delay", "20", *names)
+    def keys(self, *names, delay=20):
+        self._xdotool("key", "--delay", str(delay), *names)
 
     # ------------------------------------------------------------------------------------------------------
 

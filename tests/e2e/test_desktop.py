@@ -2,9 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Uses the built program as a user does, and looks at the files it leaves.
 
-    test_desktop.py PROGRAM [TEST...]
+    test_desktop.py PROGRAM COMMAND-LINE-PROGRAM [TEST...]
 """
 
+import json
 import os
 import pathlib
 import struct
@@ -17,6 +18,7 @@ import unittest
 from desktop import Desktop
 
 PROGRAM = sys.argv.pop(1)
+COMMAND_LINE = sys.argv.pop(1)
 VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
 EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "examples"
 
@@ -77,14 +79,149 @@ class DesktopTest(unittest.TestCase):
         desktop.wait_for_text("File: new.cpd")
 
         desktop.choose("Window", "Data Entry")
-        desktop.wait_for_text("The data window is not part of this version yet.")
-        desktop.press("OK")
+        desktop.find("Center Pivot Data Entry", "dialog")
+        self.assertEqual(desktop.text_of("Client Name:"), "")
+        desktop.keys("ctrl+w")
+        desktop.wait_for_text("Save Changes to Client Data?")
+        desktop.press("No")
+        desktop.wait_for_text("Really close without saving data?")
+        desktop.press("Yes")
+        desktop.wait_until_gone("Center Pivot Data Entry", "dialog")
         desktop.choose("Help", "About ORVEL")
         desktop.wait_for_text(VERSION)
         desktop.press("OK")
         desktop.keys("ctrl+q")
         self.assertEqual(desktop.status(), 0)
         self.assertEqual(new.read_bytes(), record)
+
+    def built(self, test, name):
+        """The bytes of the test file that the command line builds."""
+        (self.folder / "test.json").write_text(json.dumps(test), encoding="utf-8")
+        subprocess.run([COMMAND_LINE, "build", self.folder / "test.json", "-o", self.folder / name], check=True)
+        return (self.folder / name).read_bytes()
+
+    def new_test_in_its_window(self, kind, extension):
+        self.program()
+        desktop.press(kind + " System", "radio button")
+        desktop.choose("File", "New Client")
+        desktop.type_into("File name:", "typed\n")
+        desktop.wait_for_text("File: typed." + extension)
+        desktop.press("Edit Data")
+        desktop.find(kind + " Data Entry", "dialog")
+
+    def type_texts(self, test, fields):
+        for field, label in fields.items():
+            desktop.type_into(label, test[field])
+
+    def type_client(self, test):
+        self.type_texts(test, {
+            "ClientName": "Client Name:", "FarmName": "Farm Name:", "OperatorName": "Farm Operator:",
+            "ClientPhone": "Phone:", "EMail": "E-Mail:", "ClientAddress": "Address:", "ClientCity": "City:",
+            "ClientCounty": "County:", "ClientState": "State:", "ClientZip": "Zip Code:"})
+
+    def fill_and_type_readings(self, readings):
+        """Each reading and Down: nothing else is pressed."""
+        desktop.press("Auto Fill")
+        desktop.press("Yes")
+        desktop.wait_until_gone("Auto Complete Entries")
+        desktop.keys("Tab")
+        desktop.keys(*[key for reading in readings for key in [*str(reading), "Down"]], delay=5)
+
+    def save_and_exit(self, window):
+        desktop.press("Save and Exit")
+        desktop.wait_for_text("Close data entry window?")
+        desktop.press("Yes")
+        desktop.wait_until_gone(window, "dialog")
+
+    def test_a_center_pivot_test_is_typed_from_the_field_sheet(self):
+        test = json.loads((EXAMPLES / "pivot-1978.json").read_text(encoding="utf-8"))
+        readings = [cup["Volume"] for cup in test["Gauges"]]
+        self.assertEqual(len(readings), 56)
+        test |= {"DistanceToFirstGuage": "20", "GuageSpacing": "20",
+                 "Gauges": [{"Footage": 20 * cup, "Volume": 0} for cup in range(1, 301)]}
+        for cup, reading in zip(test["Gauges"], readings):
+            cup["Volume"] = reading
+
+        self.new_test_in_its_window("Center Pivot", "cpd")
+        self.type_client(test)
+        desktop.press("Field Information", "page tab")
+        self.type_texts(test, {"FieldName": "Field Name or Identifier:", "TotalAcres": "Estimated Acres:",
+                               "Crops": "Predominate Crops:", "FieldComments": "Field Comments:"})
+        desktop.select("Soil Type:", 4)
+        desktop.select("Soil Slope:", 2)
+        desktop.select("Common Tillage:", 2)
+        desktop.press("System Information", "page tab")
+        self.type_texts(test, {
+            "SystemAge": "System Age:", "SprinklerAge": "Sprinker Age:",
+            "DistanceToTower": "Distance to Last Tower (feet):", "LengthOverhang": "End Gun Overhang (feet):",
+            "EndGunRadius": "End Gun Radius (feet):", "RadLastSprinkler": "Radius of Last Sprinkler (feet):",
+            "EstFlowRate": "Estimated Flow Rate (GPM):", "MeasuredFlowRate": "Measured Flow Rate (GPM):",
+            "EstimatedPressure": "Estimated Pressure:", "MeasuredPressure": "Measured Pressure:",
+            "EndGunArc": "End Gun Arc:", "EndGunAcres": "Estimated Acres - End Gun:",
+            "SystemComments": "System Comments:"})
+        desktop.select("System Manufacturer:", 1)
+        desktop.select("Type Sprinkler:", 2)
+        desktop.press("Has End Gun", "check box")
+        desktop.press("Has End Gun Shutoff", "check box")
+        desktop.press("Comments", "page tab")
+        self.type_texts(test, {"OtherComments": "Comments / Recomendations:"})
+        desktop.press("Test Data", "page tab")
+        self.type_texts(test, {
+            "DateofTest": "Date of Test:", "PercentTimer": "Percent Timer Setting:",
+            "TravelSpeedFeet": "Distance in Feet:", "TravelSpeedMinutes": "In Minutes:",
+            "GuageDiameter": "Rain Gauge Diameter (cm):",
+            "DistanceToFirstGuage": "Distance to First Gauge (feet):", "GuageSpacing": "Gauge Spacing (feet):"})
+        desktop.select("Operation Times:", 3)
+        self.fill_and_type_readings(readings)
+        self.save_and_exit("Center Pivot Data Entry")
+        self.assertEqual((self.folder / "typed.cpd").read_bytes(), self.built(test, "built.cpd"))
+
+    def test_a_solid_set_test_is_typed_from_the_field_sheet(self):
+        test = json.loads((EXAMPLES / "solid-set-1997.json").read_text(encoding="utf-8"))
+        readings = [round(cup["Volume"]) for cup in test["Gauges"]]
+        self.assertEqual(len(readings), 16)
+        # Sequence is the row's number where the grid has an X.
+        test["Gauges"] = [{"Sequence": cup + 1, "XAxis": cup // 4 + 1, "YAxis": cup % 4 + 1, "Volume": reading}
+                          for cup, reading in enumerate(readings)]
+
+        self.new_test_in_its_window("Solid Set", "ssd")
+        self.type_client(test)
+        desktop.press("Field Information", "page tab")
+        self.type_texts(test, {"FieldName": "Field Name or Identifier:", "TotalAcres": "Estimated Area:",
+                               "Crops": "Predominate Crops:", "FieldComments": "Field Comments:"})
+        desktop.select("Soil Type:", 3)
+        desktop.select("Soil Slope:", 1)
+        desktop.select("Common Tillage:", 2)
+        desktop.press("System Information", "page tab")
+        self.type_texts(test, {
+            "SprinklerAge": "Sprinker Age:", "SprinklerSpacing": "Sprinkler Spacing:",
+            "EstFlowRate": "Estimated Flow Rate:", "MeasuredFlowRate": "Measured Flow Rate:",
+            "EstimatedPressure": "Estimated Pressure:", "MeasuredPressure": "Measured Pressure:",
+            "SystemComments": "System Comments:"})
+        desktop.select("Sprinkler Manufacturer:", 3)
+        desktop.type_into("Sprinker Age:", test["SprinklerAge"])
+        desktop.keys("Tab", "Tab", "space", "Down")
+        desktop.press("Comments", "page tab")
+        self.type_texts(test, {"OtherComments": "Comments / Recomendations:"})
+        desktop.press("Test Data", "page tab")
+        self.type_texts(test, {
+            "DateofTest": "Date of Test:", "Duration": "Duration of Test (minutes):",
+            "GuageDiameter": "Rain Gauge Diameter (cm):", "NumberX": "Number Gauges (X Axis):",
+            "NumberY": "Number Gauges (Y Axis):"})
+        desktop.select("Operation Times:", 2)
+        self.fill_and_type_readings(readings)
+        self.save_and_exit("Solid Set Data Entry")
+        self.assertEqual((self.folder / "typed.ssd").read_bytes(), self.built(test, "built.ssd"))
+
+    def test_a_soil_left_unchosen_ends_the_program(self):
+        self.new_test_in_its_window("Center Pivot", "cpd")
+        before = (self.folder / "typed.cpd").read_bytes()
+        desktop.type_into("Client Name:", "Nobody")
+        desktop.keys("ctrl+s")
+        desktop.find("Run-time error '13':\n\nType mismatch", "label")
+        desktop.press("OK")
+        self.assertEqual(desktop.status(), 1)
+        self.assertEqual((self.folder / "typed.cpd").read_bytes(), before)
 
     def test_an_open_test_is_exported_and_saved(self):
         for example, beginning in [("pivot-1978.cpd", b"1,185,0.56\r\n2,207.5,0.64\r\n"),
@@ -127,6 +264,16 @@ class DesktopTest(unittest.TestCase):
             desktop.wait_for_text("Error in saving file. Please check drives and disk space.")
             desktop.press("OK")
             desktop.wait_for_text(file_afterwards)
+            if item.startswith("Save As"):
+                desktop.press("Edit Data")
+                desktop.type_into("Client Name:", "Somebody else")
+                desktop.press("Save and Exit")
+                desktop.find("File Save Error", "alert")
+                desktop.press("OK")
+                self.assertEqual(desktop.text_of("Client Name:"), "Somebody else")
+                desktop.press("Close without Saving")
+                desktop.press("Yes")
+                desktop.wait_until_gone("Solid Set Data Entry", "dialog")
         self.assertEqual(old.read_bytes(), (EXAMPLES / "solid-set-1997.ssd").read_bytes())
         self.assertEqual(sorted(file.name for file in self.folder.iterdir()), ["old.ssd", "soil.dat", "user.usr"])
 

@@ -4,11 +4,14 @@
 #include "core/RecordFiles.h"
 #include "tests/support/CompleteUserSettings.h"
 #include "ui/AboutDialog.h"
+#include "ui/CenterPivotDataDialog.h"
 #include "ui/Desktop.h"
 #include "ui/SoilIntakeDialog.h"
+#include "ui/SolidSetDataDialog.h"
 #include "ui/UserDataDialog.h"
 
 #include <QApplication>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -25,13 +28,26 @@ void FillSettings(const std::string& programDirectory) {
     SaveUserSettings(settings);
 }
 
-bool Take(QWidget& window, const QString& folder) {
+bool Take(QWidget& window, const QString& folder, const QString& page = {}) {
     window.show();
     QApplication::processEvents();
-    const QString file = folder + "/" + window.objectName() + ".png";
+    const QString file = folder + "/" + window.objectName() + page + ".png";
     if (!window.grab().save(file)) {
         (void)std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
         return false;
+    }
+    return true;
+}
+
+// One picture of each page: frmCenterPivotData-Test-Data.png.
+bool TakePages(QWidget& window, const QString& folder) {
+    auto* pages = window.findChild<QTabWidget*>();
+    for (int page = 0; page < pages->count(); ++page) {
+        pages->setCurrentIndex(page);
+        const QString caption = pages->tabText(page).remove('&').replace(' ', '-');
+        if (!Take(window, folder, "-" + caption)) {
+            return false;
+        }
     }
     return true;
 }
@@ -45,6 +61,8 @@ int main(int argc, char** argv) {
         (void)std::fputs("orvel_screenshots FOLDER\n", stderr);
         return 2;
     }
+    // Else a picture could catch the cursor of a text box, or not.
+    QApplication::setCursorFlashTime(0);
     const QTemporaryDir programDirectory;
     FillSettings(programDirectory.path().toStdString());
 
@@ -62,5 +80,8 @@ int main(int argc, char** argv) {
             return 1;
         }
     }
-    return 0;
+    ui::CenterPivotDataDialog centerPivot(nullptr, desktop);
+    mainWindow.OpenGivenFile(ORVEL_EXAMPLES "/solid-set-1997.ssd");
+    ui::SolidSetDataDialog solidSet(nullptr, desktop);
+    return TakePages(centerPivot, arguments.at(1)) && TakePages(solidSet, arguments.at(1)) ? 0 : 1;
 }

@@ -89,6 +89,11 @@ std::filesystem::path Surroundings::Browse(const std::string& title) {
     return NextPath();
 }
 
+bool Surroundings::ProcessEvents() {
+    ADD_FAILURE() << "no window handles the user's keys in the midst of an event";
+    return true;
+}
+
 std::string Surroundings::BuildCenterPivotSummary() {
     Note("center-pivot summary");
     if (summaryError) {
@@ -131,7 +136,8 @@ WindowTest::WindowTest() {
                  .clock = &clock,
                  .fileDialogs = &surroundings,
                  .folderBrowser = &surroundings,
-                 .keySender = &surroundings});
+                 .keySender = &surroundings,
+                 .eventPump = &surroundings});
 }
 
 } // namespace orvel::testing

@@ -26,6 +26,7 @@ class Surroundings : public MessageBoxService,
                      public FileDialogService,
                      public FolderBrowser,
                      public KeySender,
+                     public EventPump,
                      public ProgramWindows {
 public:
     ~Surroundings() override;
@@ -50,6 +51,8 @@ public:
     std::filesystem::path Save(const FileDialog& dialog) override;
     std::filesystem::path Browse(const std::string& title) override;
     void SendCtrl(char letter) override { Note(std::string("Ctrl+") + letter); }
+    bool ProcessEvents() override;
+    void ProcessAllButInput() override { Note("events"); }
 
     void ShowSplash() override { Note("show frmSplash"); }
     void UnloadSplash() override { Note("unload frmSplash"); }

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <chrono>
@@ -85,15 +86,32 @@ TEST_F(DesktopProgram, EachWindowIsShownUntilItIsClosed) {
     }
 }
 
+TEST_F(DesktopProgram, ADataWindowIsShownUntilItsQuestionIsAnswered) {
+    struct Case {
+        void (Desktop::*show)();
+        const char* window;
+    };
+    for (const Case& each : {Case{&Desktop::ShowCenterPivotData, "frmCenterPivotData"},
+                             {&Desktop::ShowSolidSetData, "frmSolidSetData"}}) {
+        WhileModal([&] { (*desktop.*each.show)(); },
+                   [&](QWidget& window) {
+                       EXPECT_EQ(window.objectName(), each.window);
+                       auto& close = Find<QPushButton>(window, "cmdBtnCloseWithoutSaving");
+                       WhileModal([&] { close.click(); },
+                                  [](QWidget& question) {
+                                      dynamic_cast<QMessageBox&>(question).button(QMessageBox::Yes)->click();
+                                  });
+                   });
+    }
+}
+
 TEST_F(DesktopProgram, WhatIsNotBuiltYetSaysSo) {
     struct Case {
         std::function<void()> show;
         const char* text;
     };
     for (const Case& each :
-         {Case{[&] { desktop->ShowCenterPivotData(); }, "The data window is not part of this version yet."},
-          Case{[&] { desktop->ShowSolidSetData(); }, "The data window is not part of this version yet."},
-          Case{[&] { desktop->ShowReport(); }, "The report window is not part of this version yet."},
+         {Case{[&] { desktop->ShowReport(); }, "The report window is not part of this version yet."},
           Case{[&] { desktop->ShowViewer(kViewHelp); }, "The viewer is not part of this version yet."}}) {
         WhileModal(each.show, [&](QWidget& window) {
             EXPECT_EQ(dynamic_cast<QMessageBox&>(window).text(), each.text);

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPointer>
+#include <QTabBar>
 #include <QTest>
 #include <QTimer>
 #include <map>
@@ -19,7 +20,9 @@ namespace orvel::testing {
 namespace {
 
 bool TakesFocus(const QWidget& control) {
-    return control.isVisible() && control.isEnabled() && (control.focusPolicy() & Qt::TabFocus) != 0;
+    // Those with a proxy are a part of it.
+    return control.isVisible() && control.isEnabled() && control.focusProxy() == nullptr &&
+           (control.focusPolicy() & Qt::TabFocus) != 0;
 }
 
 // The captions of what answers to Alt and a letter.
@@ -35,6 +38,11 @@ QStringList Captions(const QWidget& window) {
     }
     for (const auto* frame : window.findChildren<QGroupBox*>()) {
         captions << frame->title();
+    }
+    for (const auto* pages : window.findChildren<QTabBar*>()) {
+        for (int page = 0; page < pages->count(); ++page) {
+            captions << pages->tabText(page);
+        }
     }
     for (const auto* menus : window.findChildren<QMenuBar*>()) {
         for (const QAction* menu : menus->actions()) {

@@ -1,0 +1,108 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/CellEditor.h"
+
+#include "ui/Keys.h"
+#include "ui/UncaughtError.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QWheelEvent>
+
+namespace orvel::ui {
+
+namespace {
+
+// The codes by which the logic knows its keys; 0 for the others.
+int KeyCode(int key) {
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return 13;
+    case Qt::Key_Escape:
+        return 27;
+    case Qt::Key_Up:
+        return 38;
+    case Qt::Key_Down:
+        return 40;
+    case Qt::Key_Insert:
+        return 45;
+    case Qt::Key_Delete:
+        return 46;
+    case Qt::Key_F9:
+        return 120;
+    case Qt::Key_F10:
+        return 121;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+CellEditor::CellEditor(MeasurementGrid& ofGrid, QWidget* parent) : QLineEdit(parent), grid(ofGrid) {
+    setObjectName("txtEdit");
+    setAccessibleName("Cell editor");
+    setFrame(false);
+    setAlignment(Qt::AlignCenter);
+    setAcceptDrops(false);
+    // Composed characters come without key events.
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Base, colors.color(QPalette::Light));
+    setPalette(colors);
+    hide();
+}
+
+void CellEditor::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste) && (event->modifiers() & Qt::ControlModifier) != 0) {
+        PasteDigits();
+        return;
+    }
+    const int code = HasCommandModifier(*event) ? 0 : KeyCode(event->key());
+    if (code != 0) {
+        Run([&] { grid.txtEdit_KeyDown(code); });
+        return;
+    }
+    const int character = TypedCharacter(*event);
+    if (character == kNoCharacterTyped || MeasurementGrid::txtEdit_KeyPress(character) != 0) {
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void CellEditor::mouseReleaseEvent(QMouseEvent* event) {
+    // The middle button would paste whatever is selected elsewhere.
+    if (event->button() != Qt::MiddleButton) {
+        QLineEdit::mouseReleaseEvent(event);
+    }
+}
+
+void CellEditor::contextMenuEvent(QContextMenuEvent* event) {
+    auto* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
+        paste->disconnect();
+        connect(paste, &QAction::triggered, this, &CellEditor::PasteDigits);
+    }
+    menu->popup(event->globalPos());
+}
+
+void CellEditor::wheelEvent(QWheelEvent* event) {
+    QCoreApplication::sendEvent(turned, event);
+}
+
+void CellEditor::PasteDigits() {
+    QString digits;
+    for (const QChar character : QGuiApplication::clipboard()->text()) {
+        const ushort code = character.unicode();
+        if (code > ' ' && MeasurementGrid::txtEdit_KeyPress(code) != 0) {
+            digits += character;
+        }
+    }
+    insert(digits);
+}
+
+} // namespace orvel::ui
