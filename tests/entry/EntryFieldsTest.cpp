@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <gtest/gtest.h>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -26,12 +27,15 @@ constexpr std::array<Field, 5> kRecord = {{
     {"Depth", 10, 4, FieldKind::Text},
     {"Rate", 14, 4, FieldKind::Single},
 }};
-constexpr std::array<EntryField, 4> kForm = {{
+// Behind the end of the form stands what is not in it.
+constexpr std::array<EntryField, 5> kEntries = {{
     {"txtBoxOwner", EntryRule::Length, "comboCrop"},
     {"comboCrop", EntryRule::Length},
     {"chkBoxIsWet"},
     {"txtBoxDepth", EntryRule::Numeric},
+    {"optBtnOther", EntryRule::Length},
 }};
+constexpr std::span kForm = std::span(kEntries).first<4>();
 
 class EntryFields : public testing::WindowTest {
 protected:
@@ -66,9 +70,12 @@ TEST_F(EntryFields, AFieldIsNamedAsItsControlWithoutThePrefix) {
 TEST_F(EntryFields, OnlyTextsAndFlagsOfTheRecordCanBeEdited) {
     constexpr std::array<EntryField, 2> kNumber = {{{"txtBoxOwner"}, {"txtBoxRate"}}};
     constexpr std::array<EntryField, 2> kForeign = {{{"txtBoxOwner"}, {"txtBoxNothing"}}};
-    EXPECT_TRUE(AreInRecord(kForm, kRecord));
-    EXPECT_FALSE(AreInRecord(kNumber, kRecord));
-    EXPECT_FALSE(AreInRecord(kForeign, kRecord));
+    constexpr bool isFormInRecord = AreInRecord(kForm, kRecord);
+    constexpr bool isNumberInRecord = AreInRecord(kNumber, kRecord);
+    constexpr bool isForeignInRecord = AreInRecord(kForeign, kRecord);
+    EXPECT_TRUE(isFormInRecord);
+    EXPECT_FALSE(isNumberInRecord);
+    EXPECT_FALSE(isForeignInRecord);
 }
 
 TEST_F(EntryFields, LoadingShowsTextsWithoutBlanksAndFlagsAsTheyAre) {
@@ -89,14 +96,14 @@ TEST_F(EntryFields, LoadingShowsTextsWithoutBlanksAndFlagsAsTheyAre) {
 TEST_F(EntryFields, StoringTrimsCutsAndPads) {
     form.Load(record);
     view.Put("txtBoxOwner", "  a b ");
-    view.Put("comboCrop", "  wheat");
+    view.Put("comboCrop", "  barley");
     view.Put("txtBoxDepth", "");
     view.checks["chkBoxIsWet"] = false;
     form.Store(record);
-    EXPECT_EQ(Bytes(), std::string("a b  whe\0\0    rate", 18));
+    EXPECT_EQ(Bytes(), std::string("a b  bar\0\0    rate", 18));
     view.checks["chkBoxIsWet"] = true;
     form.Store(record);
-    EXPECT_EQ(Bytes(), "a b  whe\xFF\xFF    rate");
+    EXPECT_EQ(Bytes(), "a b  bar\xFF\xFF    rate");
 }
 
 TEST_F(EntryFields, AGreyedCheckBoxLeavesItsFlag) {
@@ -143,7 +150,7 @@ TEST_F(EntryFields, ABoxCanLookAfterAnotherOneToo) {
     view.SetText("txtBoxOwner", "Bo");
     EXPECT_EQ(Said(), (Lines{"box [Input Error] Maximim Characters in this field is 3 (Ok)"}));
     EXPECT_EQ(view.Text("comboCrop"), "oat");
-    view.Put("txtBoxOwner", "longer");
+    view.Put("txtBoxOwner", "abcdefg");
     view.SetText("comboCrop", "x");
     EXPECT_EQ(Said(), Lines{}) << "not the other way round";
     view.Put("comboCrop", "oats");
@@ -151,7 +158,7 @@ TEST_F(EntryFields, ABoxCanLookAfterAnotherOneToo) {
     EXPECT_EQ(Said(), (Lines{"box [Input Error] Maximim Characters in this field is 5 (Ok)",
                              "box [Input Error] Maximim Characters in this field is 3 (Ok)"}))
         << "its own first";
-    EXPECT_EQ(view.Text("txtBoxOwner"), "longe");
+    EXPECT_EQ(view.Text("txtBoxOwner"), "abcde");
 }
 
 TEST_F(EntryFields, AControlThatEditsNoFieldIsAnError) {
