@@ -10,10 +10,6 @@ class CenterPivotDataDialog : public DataDialog {
 public:
     // `windows` must outlive the window.
     CenterPivotDataDialog(QWidget* parent, ProgramWindows& windows);
-
-private:
-    void AddSystemPage();
-    void AddTestPage();
 };
 
 } // namespace orvel::ui

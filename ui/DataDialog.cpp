@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/DataDialog.h"
 
+#include "ui/Menus.h"
 #include "ui/NumericKeyFilter.h"
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
@@ -9,49 +10,18 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScrollBar>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 #include <algorithm>
 
 namespace orvel::ui {
 
-namespace {
-
-// Takes any text, completes nothing, and turns with the wheel only where the user is.
-class EntryList : public QComboBox {
-public:
-    EntryList() {
-        setEditable(true);
-        setInsertPolicy(NoInsert);
-        setCompleter(nullptr);
-        setFocusPolicy(Qt::StrongFocus);
-    }
-
-protected:
-    void wheelEvent(QWheelEvent* event) override {
-        if (hasFocus()) {
-            QComboBox::wheelEvent(event);
-        } else {
-            event->ignore();
-        }
-    }
-};
-
-constexpr QSize kStartSize{850, 520};
-
-bool IsButton(std::string_view control) {
-    return control.starts_with("chkBox") || control.starts_with("optBtn");
-}
-
-} // namespace
-
-DataDialog::DataDialog(QWidget* parent) : QDialog(parent), FormOf<DataView>(this) {
+DataDialog::DataDialog(QWidget* parent, const char* name, const QString& caption)
+    : QDialog(parent), FormOf<DataView>(this) {
+    setObjectName(name);
+    setWindowTitle(caption);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
 }
 
@@ -60,24 +30,40 @@ DataDialog::~DataDialog() {
     delete pages;
 }
 
-void DataDialog::Begin(std::unique_ptr<DataWindow> ofWindow) {
+DataPages& DataDialog::Begin(std::unique_ptr<DataWindow> ofWindow) {
     logic = std::move(ofWindow);
-    pages = new QTabWidget;
-    pages->setObjectName("tabPages");
+    pages = new DataPages(*logic);
+    return *pages;
 }
 
-void DataDialog::End(const std::function<void()>& saveAs) {
+void DataDialog::Complete(const std::function<void()>& saveAs) {
+    constexpr QSize kStartSize{850, 520};
+    table = pages->Table();
+    editor = pages->Editor();
     auto* layout = new QVBoxLayout(this);
     AddMenus(saveAs);
     layout->addWidget(pages);
     layout->addLayout(NewFootLine(saveAs));
+    SetTabOrder();
+    FilterNumericBoxes();
+    logic->Form_Load();
+    resize(kStartSize.expandedTo(minimumSizeHint()));
+}
+
+void DataDialog::SetTabOrder() {
+    const std::vector<QWidget*>& controls = pages->InTabOrder();
     for (std::size_t i = 1; i < controls.size(); ++i) {
         setTabOrder(controls[i - 1], controls[i]);
     }
-    FilterNumericBoxes();
     controls.front()->setFocus();
-    logic->Form_Load();
-    resize(kStartSize.expandedTo(minimumSizeHint()));
+}
+
+void DataDialog::FilterNumericBoxes() {
+    for (const EntryField& entry : logic->Entries()) {
+        if (entry.rule == EntryRule::Numeric) {
+            FilterKeys(FindControl<QLineEdit>(*this, entry.control), DataWindow::NumberBox_KeyPress);
+        }
+    }
 }
 
 std::function<void()> DataDialog::Event(void (DataWindow::*handler)()) {
@@ -112,211 +98,6 @@ void DataDialog::AddMenus(const std::function<void()>& saveAs) {
             });
 }
 
-void DataDialog::AddClientPage() {
-    AddPage({"&Client Information",
-             {NewColumn({NewFields({
-                  {"txtBoxClientName", "Client Name:"},
-                  {"txtBoxFarmName", "Farm Name:"},
-                  {"txtBoxOperatorName", "Farm Operator:"},
-                  {"txtBoxClientPhone", "Phone:"},
-                  {"txtBoxEMail", "E-Mail:"},
-              })}),
-              NewColumn({NewFields({
-                  {"txtBoxClientAddress", "Address:"},
-                  {"txtBoxClientCity", "City:"},
-                  {"txtBoxClientCounty", "County:"},
-                  {"txtBoxClientState", "State:"},
-                  {"txtBoxClientZip", "Zip Code:"},
-              })})}});
-}
-
-void DataDialog::AddFieldPage(const char* labelOfAcres) {
-    AddPage({"F&ield Information",
-             {NewColumn({NewFields({
-                  {"txtBoxFieldName", "Field Name or Identifier:"},
-                  {"txtBoxTotalAcres", labelOfAcres},
-                  {"txtBoxCrops", "Predominate Crops:", nullptr, "Example: Corn-Cotton-Peanuts-Tobacco"},
-              })}),
-              NewColumn({NewFields({
-                  {"comboSoilType", "Soil Type:"},
-                  {"comboSoilSlope", "Soil Slope:"},
-                  {"ComboCommonTillage", "Common Tillage:"},
-              })})},
-             NewFields({{"txtBoxFieldComments", "Comments:", "Field Comments:"}})});
-}
-
-void DataDialog::AddCommentsPage() {
-    const LabelledControl comments = {"txtBoxOtherComments", "Comments / Recomendations:"};
-    QWidget* box = NewControl(comments);
-    auto* label = new QLabel(comments.label);
-    label->setBuddy(box);
-    auto* page = new QWidget;
-    auto* layout = new QVBoxLayout(page);
-    layout->addWidget(label);
-    layout->addWidget(box, 1);
-    pages->addTab(page, "Co&mments");
-}
-
-QPushButton* DataDialog::NewButton(const char* name, const char* caption, std::function<void()> event) {
-    auto* button = new QPushButton(caption);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, std::move(event));
-    controls.push_back(button);
-    return button;
-}
-
-void DataDialog::AddPage(const Page& page) {
-    constexpr int kGap = 24;
-    auto* widget = new QWidget;
-    auto* layout = new QVBoxLayout(widget);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(kGap);
-    for (QWidget* column : page.columns) {
-        const bool isFixed = column->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
-        line->addWidget(column, isFixed ? 0 : 1);
-    }
-    layout->addLayout(line, page.below == nullptr ? 1 : 0);
-    if (page.below != nullptr) {
-        layout->addWidget(page.below, 1);
-    }
-    pages->addTab(widget, page.caption);
-}
-
-QWidget* DataDialog::NewColumn(const std::vector<QWidget*>& parts) {
-    auto* column = new QWidget;
-    auto* layout = new QVBoxLayout(column);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (QWidget* part : parts) {
-        layout->addWidget(part);
-    }
-    layout->addStretch();
-    return column;
-}
-
-QWidget* DataDialog::NewFields(Controls fields) {
-    auto* widget = new QWidget;
-    auto* layout = new QFormLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    for (const LabelledControl& each : fields) {
-        QWidget* control = NewControl(each);
-        if (IsButton(each.control)) {
-            layout->addRow(QString(), control);
-        } else {
-            layout->addRow(each.label, control);
-        }
-        if (each.hint != nullptr) {
-            layout->addRow(QString(), new QLabel(each.hint));
-        }
-    }
-    return widget;
-}
-
-QWidget* DataDialog::NewFieldsToFill(Controls fields) {
-    QWidget* widget = NewFields(fields);
-    QPushButton* button = NewButton("cmdBtnAutoFill", "Auto Fi&ll", Event(&DataWindow::cmdBtnAutoFill_Click));
-    button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    static_cast<QFormLayout*>(widget->layout())->addRow(QString(), button);
-    return widget;
-}
-
-QWidget* DataDialog::NewFrame(const char* caption, QWidget* content) {
-    auto* frame = new QGroupBox(caption);
-    frame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    auto* layout = new QVBoxLayout(frame);
-    layout->addWidget(content);
-    return frame;
-}
-
-QWidget* DataDialog::NewLine(Controls fields) {
-    constexpr int kBoxWidth = 56;
-    auto* widget = new QWidget;
-    auto* layout = new QHBoxLayout(widget);
-    layout->setContentsMargins(0, 0, 0, 0);
-    for (const LabelledControl& each : fields) {
-        QWidget* control = NewControl(each);
-        control->setFixedWidth(kBoxWidth);
-        auto* label = new QLabel(each.label);
-        label->setBuddy(control);
-        layout->addWidget(label);
-        layout->addWidget(control);
-    }
-    layout->addStretch();
-    return widget;
-}
-
-QWidget* DataDialog::NewTips() {
-    return NewFrame("Tips", NewColumn({new QLabel("To Insert a Cell press F10 or the Insert Key"),
-                                       new QLabel("To Delete a Cell press F9 or the Delete Key")}));
-}
-
-QWidget* DataDialog::NewGrid() {
-    auto* page = new QWidget;
-    auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, 0, 0, 0);
-    editor = new CellEditor(logic->Grid(), page);
-    table = new MeasurementTable(logic->Grid(), editor->sizeHint().height(), page);
-    editor->setFont(table->font());
-    editor->TurnWithWheel(table->verticalScrollBar());
-    layout->addWidget(table);
-    page->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    // Leaving the editor with Tab goes to the grid, which takes the text.
-    controls.push_back(editor);
-    controls.push_back(table);
-    return page;
-}
-
-QWidget* DataDialog::NewControl(const LabelledControl& labelled) {
-    const std::string name = labelled.control;
-    const auto changed = [this, name] { Run([&] { logic->TextBox_Change(name); }); };
-    QWidget* control = nullptr;
-    if (name.starts_with("chkBox")) {
-        control = new QCheckBox(labelled.label);
-    } else if (name.starts_with("optBtn")) {
-        control = new QRadioButton(labelled.label);
-    } else if (name.starts_with("combo") || name.starts_with("Combo")) {
-        auto* list = new EntryList;
-        // A list's own name is the text it shows.
-        list->lineEdit()->setAccessibleName(labelled.label);
-        control = list;
-    } else if (name.ends_with("Comments")) {
-        constexpr int kLeastLines = 3;
-        auto* box = new QPlainTextEdit;
-        box->setTabChangesFocus(true);
-        box->setMinimumHeight(box->fontMetrics().lineSpacing() * kLeastLines + 2 * box->frameWidth());
-        connect(box, &QPlainTextEdit::textChanged, this, changed);
-        control = box;
-    } else {
-        QLineEdit* box = NewTextLine(name);
-        connect(box, &QLineEdit::textChanged, this, changed);
-        control = box;
-    }
-    control->setObjectName(labelled.control);
-    control->setAccessibleName(labelled.accessibleName == nullptr ? labelled.label : labelled.accessibleName);
-    controls.push_back(control);
-    return control;
-}
-
-QLineEdit* DataDialog::NewTextLine(std::string_view name) const {
-    // A number or a date needs no long box.
-    constexpr std::size_t kMostCharacters = 25;
-    constexpr int kShortWidth = 120;
-    auto* box = new QLineEdit;
-    if (logic->WidthOf(name) <= kMostCharacters) {
-        box->setMaximumWidth(kShortWidth);
-    }
-    return box;
-}
-
-void DataDialog::FilterNumericBoxes() {
-    for (const EntryField& entry : logic->Entries()) {
-        if (entry.rule == EntryRule::Numeric) {
-            FilterKeys(FindControl<QLineEdit>(*this, entry.control), DataWindow::NumberBox_KeyPress);
-        }
-    }
-}
-
 QLayout* DataDialog::NewFootLine(const std::function<void()>& saveAs) {
     auto* line = new QHBoxLayout;
     line->addWidget(new QLabel("Current File:"));
@@ -326,12 +107,12 @@ QLayout* DataDialog::NewFootLine(const std::function<void()>& saveAs) {
     file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     line->addWidget(file, 1);
     if (saveAs) {
-        line->addWidget(NewButton("cmdBtnSaveAs", "Save &As", saveAs));
+        line->addWidget(NewCommand("cmdBtnSaveAs", "Save &As", saveAs));
     }
-    line->addWidget(NewButton("cmdBtnCloseWithoutSaving", "Close &without Saving",
-                              Event(&DataWindow::cmdBtnCloseWithoutSaving_Click)));
+    line->addWidget(NewCommand("cmdBtnCloseWithoutSaving", "Close &without Saving",
+                               [this] { logic->cmdBtnCloseWithoutSaving_Click(); }));
     line->addWidget(
-        NewButton("cmdBtnExitAndSave", "&Save and Exit", Event(&DataWindow::cmdBtnExitAndSave_Click)));
+        NewCommand("cmdBtnExitAndSave", "&Save and Exit", [this] { logic->cmdBtnExitAndSave_Click(); }));
     return line;
 }
 

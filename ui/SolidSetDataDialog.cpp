@@ -6,46 +6,36 @@
 
 namespace orvel::ui {
 
-SolidSetDataDialog::SolidSetDataDialog(QWidget* parent, ProgramWindows& windows) : DataDialog(parent) {
-    setObjectName("frmSolidSetData");
-    setWindowTitle("Solid Set Data Entry");
-    Begin(std::make_unique<frmSolidSetData>(AsView(), windows));
-    AddClientPage();
-    AddFieldPage("Estimated Area:");
-    AddSystemPage();
-    AddTestPage();
-    AddCommentsPage();
-    End(nullptr);
+namespace {
+
+void AddSystemPage(DataPages& pages) {
+    pages.AddPage({"S&ystem Information",
+                   {NewColumn({
+                        pages.NewFields({
+                            {"ComboSystemManufacturer", "Sprinkler Manufacturer:"},
+                            {"txtBoxSprinklerAge", "Sprinker Age:"},
+                            {"txtBoxSprinklerSpacing", "Sprinkler Spacing:"},
+                        }),
+                        NewFrame("Sprinkler Head Configuration", pages.NewFields({
+                                                                     {"optBtnTriangle", "Triangular Spacing"},
+                                                                     {"optBtnSquare", "Square Spacing"},
+                                                                 })),
+                    }),
+                    NewColumn({
+                        pages.NewFields({
+                            {"txtBoxEstFlowRate", "Estimated Flow Rate:"},
+                            {"txtBoxMeasuredFlowRate", "Measured Flow Rate:"},
+                            {"txtBoxEstimatedPressure", "Estimated Pressure:"},
+                            {"txtBoxMeasuredPressure", "Measured Pressure:"},
+                            {"chkBoxObservedLeaks", "Leaks Observed"},
+                        }),
+                    })},
+                   pages.NewFields({{"txtBoxSystemComments", "Comments:", "System Comments:"}})});
 }
 
-void SolidSetDataDialog::AddSystemPage() {
-    AddPage({"S&ystem Information",
-             {NewColumn({
-                  NewFields({
-                      {"ComboSystemManufacturer", "Sprinkler Manufacturer:"},
-                      {"txtBoxSprinklerAge", "Sprinker Age:"},
-                      {"txtBoxSprinklerSpacing", "Sprinkler Spacing:"},
-                  }),
-                  NewFrame("Sprinkler Head Configuration", NewFields({
-                                                               {"optBtnTriangle", "Triangular Spacing"},
-                                                               {"optBtnSquare", "Square Spacing"},
-                                                           })),
-              }),
-              NewColumn({
-                  NewFields({
-                      {"txtBoxEstFlowRate", "Estimated Flow Rate:"},
-                      {"txtBoxMeasuredFlowRate", "Measured Flow Rate:"},
-                      {"txtBoxEstimatedPressure", "Estimated Pressure:"},
-                      {"txtBoxMeasuredPressure", "Measured Pressure:"},
-                      {"chkBoxObservedLeaks", "Leaks Observed"},
-                  }),
-              })},
-             NewFields({{"txtBoxSystemComments", "Comments:", "System Comments:"}})});
-}
-
-void SolidSetDataDialog::AddTestPage() {
+void AddTestPage(DataPages& pages) {
     QWidget* entries = NewColumn({
-        NewFieldsToFill({
+        pages.NewFieldsToFill({
             {"txtBoxDateofTest", "Date of Test:"},
             {"ComboOperatingTimes", "Operation Times:"},
             {"txtBoxDuration", "Duration of Test (minutes):"},
@@ -55,7 +45,20 @@ void SolidSetDataDialog::AddTestPage() {
         }),
         NewTips(),
     });
-    AddPage({"&Test Data", {entries, NewGrid()}});
+    pages.AddPage({"&Test Data", {entries, pages.NewGrid()}});
+}
+
+} // namespace
+
+SolidSetDataDialog::SolidSetDataDialog(QWidget* parent, ProgramWindows& windows)
+    : DataDialog(parent, "frmSolidSetData", "Solid Set Data Entry") {
+    DataPages& pages = Begin(std::make_unique<frmSolidSetData>(AsView(), windows));
+    pages.AddClientPage();
+    pages.AddFieldPage("Estimated Area:");
+    AddSystemPage(pages);
+    AddTestPage(pages);
+    pages.AddCommentsPage();
+    Complete(nullptr);
 }
 
 } // namespace orvel::ui

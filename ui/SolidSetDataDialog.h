@@ -10,10 +10,6 @@ class SolidSetDataDialog : public DataDialog {
 public:
     // `windows` must outlive the window.
     SolidSetDataDialog(QWidget* parent, ProgramWindows& windows);
-
-private:
-    void AddSystemPage();
-    void AddTestPage();
 };
 
 } // namespace orvel::ui

@@ -278,13 +278,14 @@ TEST_F(FrmCenterPivotSave, SaveAsWritesAnotherFileWhichBecomesTheCurrentOne) {
 TEST_F(FrmCenterPivotSave, ACancelledSaveAsLeavesTheFileButNotTheProgramsRecord) {
     Load();
     view.Put("txtBoxClientName", "Ann");
+    view.Put("labelFile", "as it was");
     Program().userSettings.DefaultDirectory = (folder / "none").native();
     EXPECT_EQ(SaveAs({}), (Lines{Dialog("")})) << "there is no such folder";
     Program().userSettings.DefaultDirectory = "";
     EXPECT_EQ(SaveAs({}), (Lines{Dialog("")}));
     EXPECT_EQ(Main().ClientName.Trimmed(), "Ann");
     EXPECT_EQ(Program().centerPivotFile, File());
-    EXPECT_EQ(view.Text("labelFile"), "test.cpd");
+    EXPECT_EQ(view.Text("labelFile"), "as it was");
     EXPECT_EQ(folder.Names(), Lines{});
 }
 
