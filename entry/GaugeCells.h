@@ -25,9 +25,9 @@ enum class EmptyCell {
 // Which number of a measurement a column of the grid shows; the columns 1, 2, ... of a grid make an array.
 template <class Gauge>
 struct GaugeColumn {
-    Single Gauge::*number;
+    Single Gauge::*number = nullptr;
     std::string_view mask; // empty: the plain number
-    EmptyCell whenEmpty;
+    EmptyCell whenEmpty = EmptyCell::BecomesZero;
 };
 
 // A zero shows as nothing, and so does what a damaged file has in place of a number.

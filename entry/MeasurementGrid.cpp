@@ -7,6 +7,8 @@
 #include "core/Platform.h"
 #include "core/RunTimeError.h"
 
+#include <utility>
+
 namespace orvel {
 
 namespace {
@@ -57,11 +59,10 @@ MeasurementGrid::MeasurementGrid(GridView& ofWindow, const GridKind& ofTest)
 }
 
 std::size_t MeasurementGrid::CellIndex(int row, int column) const {
-    const int columns = static_cast<int>(kind.columns.size());
-    if (row < 0 || row >= kRows || column < 0 || column >= columns) {
+    if (row < 0 || row >= kRows || column < 0 || std::cmp_greater_equal(column, kind.columns.size())) {
         Raise(ErrorNumber::SubscriptOutOfRange);
     }
-    return static_cast<std::size_t>(row * columns + column);
+    return static_cast<std::size_t>(row) * kind.columns.size() + static_cast<std::size_t>(column);
 }
 
 const std::string& MeasurementGrid::Cell(int row, int column) const {

@@ -19,11 +19,13 @@ namespace orvel::ui {
 // The part of a data window that both kinds of test share. It asks by itself what closing it asks; neither
 // Escape nor Enter closes it or presses a button, since both are working keys of the grid.
 class DataDialog : public QDialog, protected FormOf<DataView> {
-protected:
-    DataDialog(QWidget* parent, const char* name, const QString& caption);
-    ~DataDialog() override;
+public:
     DataDialog(const DataDialog&) = delete;
     DataDialog& operator=(const DataDialog&) = delete;
+    ~DataDialog() override;
+
+protected:
+    DataDialog(QWidget* parent, const char* name, const QString& caption);
 
     // What the logic sees of the window.
     [[nodiscard]] DataView& AsView() { return *this; }

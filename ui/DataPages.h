@@ -26,8 +26,8 @@ namespace orvel::ui {
 // A control with its label. Its name says what it is: "txtBox...Comments" a text box of many lines, another
 // "txtBox..." one of one line, "combo..." a combo box, "chkBox..." and "optBtn..." buttons with their label.
 struct LabelledControl {
-    const char* control;
-    const char* label;
+    const char* control = nullptr;
+    const char* label = nullptr;
     const char* accessibleName = nullptr; // where the label alone is not unique in its window
     const char* hint = nullptr;           // a line below the control
 };
