@@ -161,6 +161,15 @@ void MeasurementGrid::gridTest_MouseDown(int x, int y) {
 }
 
 void MeasurementGrid::gridTest_Resize() {
+    if (!isEditing) {
+        return;
+    }
+    if (view.CellArea(currentRow, currentColumn).width < 0) {
+        CommitEdit();
+        return;
+    }
+    // Scrolling takes the text.
+    view.ShowWholeCell(currentRow, currentColumn);
     if (isEditing) {
         PlaceEditor();
     }

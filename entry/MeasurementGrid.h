@@ -68,6 +68,7 @@ public:
     void gridTest_DblClick();
     // A mouse event at that place, seen from the corner of the header row.
     void gridTest_MouseDown(int x, int y);
+    // The editor follows its cell; one that is out of sight now takes the text.
     void gridTest_Resize();
 
     // Codes: Enter 13, Escape 27, Up 38, Down 40, Insert 45, Delete 46, F9 120, F10 121.

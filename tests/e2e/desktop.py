@@ -118,6 +118,7 @@ class Desktop:
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self._first_line_of(
             "dbus-daemon", "--session", "--nofork", "--print-address=1")
         self.processes.append(self._run("openbox"))
+        self._wait_for_the_window_manager()
         import gi
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
@@ -145,6 +146,14 @@ class Desktop:
         if not line:
             raise RuntimeError(command[0] + " does not start")
         return line
+
+    @staticmethod
+    def _wait_for_the_window_manager():
+        end = time.monotonic() + PATIENCE
+        while subprocess.run(["xdotool", "get_num_desktops"], capture_output=True, check=False).returncode != 0:
+            if time.monotonic() > end:
+                raise RuntimeError("the window manager does not start")
+            time.sleep(0.05)
 
     def _xdotool(self, *arguments):
         subprocess.run(["xdotool", *arguments], check=True)

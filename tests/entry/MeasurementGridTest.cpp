@@ -259,7 +259,23 @@ TYPED_TEST(MeasurementGridEditing, TheEditorFollowsItsCell) {
     EXPECT_EQ(this->Said(), Lines{});
     this->Edit(3, "7");
     this->Grid().gridTest_Resize();
-    EXPECT_EQ(this->Said(), (Lines{this->Placed(3)}));
+    EXPECT_EQ(this->Said(), (Lines{this->Line("whole", 3), this->Placed(3)}));
+}
+
+TYPED_TEST(MeasurementGridEditing, ACellThatAResizePutsOutOfSightTakesTheText) {
+    this->Edit(3, "7");
+    this->view.cellWidth = -100;
+    this->Grid().gridTest_Resize();
+    EXPECT_EQ(this->Said(), (Lines{this->Line("cell", 3), "hide editor"}));
+    EXPECT_EQ(this->Grid().Cell(3, TestFixture::kVolume), TestFixture::Kind::kSeven);
+}
+
+TYPED_TEST(MeasurementGridEditing, ACellThatAResizeScrollsTakesTheText) {
+    this->Edit(3, "7");
+    this->view.onShowWholeCell = [this] { this->Grid().gridTest_Scroll(); };
+    this->Grid().gridTest_Resize();
+    EXPECT_FALSE(this->Grid().IsEditing());
+    EXPECT_EQ(this->Said().back(), "hide editor") << "it is not placed again";
 }
 
 TYPED_TEST(MeasurementGridEditing, ADoubleClickEditsTheCellsTextUnlessThePointerIsOutsideTheCells) {

@@ -115,6 +115,20 @@ TEST_F(MeasurementTable, TheEditorMovesWithItsCell) {
     EXPECT_EQ(EditorInWindow(), InWindow(5, 2));
 }
 
+TEST_F(MeasurementTable, AResizeThatHidesItsCellTakesTheText) {
+    int lastRow = 1;
+    while (Table().viewport()->rect().contains(Table().visualRect(Table().model()->index(lastRow, 2)))) {
+        ++lastRow;
+    }
+    GoTo(lastRow, 2);
+    Type("7");
+    const int height = dialog->height();
+    dialog->resize(dialog->width(), dialog->minimumSizeHint().height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Editor().isVisible(); }));
+    EXPECT_LT(dialog->height(), height);
+    EXPECT_EQ(Cell(lastRow, 2), "07");
+}
+
 TEST_F(MeasurementTable, EnterTakesTheTextAndBeginsNoOtherEdit) {
     Type("7");
     Press(Qt::Key_Return);
