@@ -3,6 +3,7 @@
 #include "core/EntryRules.h"
 
 #include "core/Masks.h"
+#include "core/Messages.h"
 #include "core/Platform.h"
 
 #include <cmath>
@@ -19,8 +20,7 @@ constexpr int kDropped = 0;
 std::string LimitLength(std::string_view text, std::size_t maximum) {
     if (text.size() > maximum) {
         // kept: "Maximim".
-        CurrentPlatform().messageBox->Show({"Maximim Characters in this field is " + std::to_string(maximum),
-                                            "Input Error", Buttons::Ok, Icon::None});
+        Tell("Maximim Characters in this field is " + std::to_string(maximum), "Input Error");
     }
     return std::string{text.substr(0, maximum)};
 }

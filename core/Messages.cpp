@@ -9,6 +9,18 @@
 
 namespace orvel {
 
+void Tell(const std::string& text, const char* title) {
+    CurrentPlatform().messageBox->Show({text, title, Buttons::Ok, Icon::None});
+}
+
+void TellError(const std::string& text, const char* title) {
+    CurrentPlatform().messageBox->Show({text, title, Buttons::Ok, Icon::Critical});
+}
+
+Reply Ask(const std::string& question, const char* title, Buttons buttons) {
+    return CurrentPlatform().messageBox->Show({question, title, buttons, Icon::None});
+}
+
 Reply ShowKeptMessage(const Message& message) {
     ProgramState& program = Program();
     program.messageText = message.text;

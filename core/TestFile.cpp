@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/TestFile.h"
 
+#include "core/Messages.h"
 #include "core/Platform.h"
 #include "core/RecordFiles.h"
 #include "core/UserSettingsCheck.h"
@@ -125,8 +126,7 @@ fs::path AskForName(const char* title, const char* defaultExtension, const char*
 }
 
 void ShowFileSaveError() {
-    CurrentPlatform().messageBox->Show({"Error in saving file. Please check drives and disk space.",
-                                        "File Save Error", Buttons::Ok, Icon::Critical});
+    TellError("Error in saving file. Please check drives and disk space.", "File Save Error");
 }
 
 } // namespace orvel

@@ -3,7 +3,7 @@
 #include "core/UserSettingsCheck.h"
 
 #include "core/FileNames.h"
-#include "core/Platform.h"
+#include "core/Messages.h"
 #include "core/ProgramState.h"
 #include "core/Text.h"
 
@@ -43,7 +43,7 @@ bool CheckUserSettings() {
     missing.append(kCr).append("You Should Check Your Setup Information");
     missing.append(kCr).append("You may also change the default file location.");
     missing.append(kCr).append("Please choose 'User Settings' on the 'Window' menu.");
-    CurrentPlatform().messageBox->Show({missing, "User Settings Error", Buttons::Ok, Icon::None});
+    Tell(missing, "User Settings Error");
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include "core/frmMain.h"
 
 #include "core/FileNames.h"
+#include "core/Messages.h"
 #include "core/Platform.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
@@ -17,14 +18,6 @@ namespace orvel {
 namespace {
 
 namespace fs = std::filesystem;
-
-Reply Ask(const std::string& question, const char* title) {
-    return CurrentPlatform().messageBox->Show({question, title, Buttons::YesNo, Icon::None});
-}
-
-void Tell(const std::string& text, const char* title) {
-    CurrentPlatform().messageBox->Show({text, title, Buttons::Ok, Icon::None});
-}
 
 void SendCtrl(char letter) {
     CurrentPlatform().keySender->SendCtrl(letter);
@@ -162,9 +155,9 @@ void frmMain::mnuDataEntry_Click() {
     if (FileExists(CurrentFile())) {
         ShowDataWindow();
     } else if (Ask("You have not created or opened a data file.\rWould you like to open an existing file?",
-                   "Open Existing File") == Reply::Yes) {
+                   "Open Existing File", Buttons::YesNo) == Reply::Yes) {
         mnuFileOpen_Click();
-    } else if (Ask("Would you like to create a new file?", "Create New File") == Reply::Yes) {
+    } else if (Ask("Would you like to create a new file?", "Create New File", Buttons::YesNo) == Reply::Yes) {
         mnuFileNew_Click();
     }
 }
@@ -207,7 +200,8 @@ void frmMain::cmdBtnNewDataFile_Click() {
 }
 
 void frmMain::cmdBtnOpenFile_Click() {
-    if (!CurrentFile().empty() && Ask("Close current file and open a new file?", "Open File") != Reply::Yes) {
+    if (!CurrentFile().empty() &&
+        Ask("Close current file and open a new file?", "Open File", Buttons::YesNo) != Reply::Yes) {
         return;
     }
     mnuFileClose_Click();

@@ -5,6 +5,7 @@
 #include "core/CodePage.h"
 #include "core/EntryRules.h"
 #include "core/FileNames.h"
+#include "core/Messages.h"
 #include "core/Platform.h"
 #include "core/TestFile.h"
 
@@ -14,10 +15,6 @@
 namespace orvel {
 
 namespace {
-
-Reply Ask(const char* question, const char* title, Buttons buttons) {
-    return CurrentPlatform().messageBox->Show({question, title, buttons, Icon::None});
-}
 
 void SendCtrl(char letter) {
     CurrentPlatform().keySender->SendCtrl(letter);

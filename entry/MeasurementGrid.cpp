@@ -3,6 +3,7 @@
 #include "entry/MeasurementGrid.h"
 
 #include "core/Masks.h"
+#include "core/Messages.h"
 #include "core/NumberText.h"
 #include "core/Platform.h"
 #include "core/RunTimeError.h"
@@ -32,8 +33,7 @@ bool IsDigit(int character) {
 }
 
 bool IsConfirmed(const char* question, const char* title) {
-    return CurrentPlatform().messageBox->Show({question, title, Buttons::YesNoCancel, Icon::None}) ==
-           Reply::Yes;
+    return Ask(question, title, Buttons::YesNoCancel) == Reply::Yes;
 }
 
 // A text that is no number stays as it is.

@@ -5,11 +5,12 @@
 #include "centerpivot/CenterPivotChecks.h"
 #include "core/Arithmetic.h"
 #include "core/EntryRules.h"
+#include "core/Messages.h"
 #include "core/NumberText.h"
-#include "core/Platform.h"
 #include "core/ProgramState.h"
 #include "core/TestFile.h"
 #include "entry/GaugeCells.h"
+#include "entry/SharedLists.h"
 
 #include <array>
 #include <cstdint>
@@ -74,13 +75,10 @@ constexpr std::array<EntryField, 45> kEntries = {{
 }};
 static_assert(AreInRecord(kEntries, kCenterPivotFields));
 
-constexpr std::array kSlopes = {kPromptSoilSlope, "0-1 Percent", "1-3 Percent", "3> Percent", "Unknown"};
 constexpr std::array kTillages = {kPromptCommonTillage, "Conventional", "Strip Till / Minimum Till",
                                   "No Till", "Other/Unknown"};
 constexpr std::array kManufacturers = {
     kPromptSystemManufacturer, "Valley", "Zimmatic/Lindsay", "Reinke", "T&L", "Other", "Unknown"};
-constexpr std::array kOperatingTimes = {kPromptOperatingTimes, "Daytime Only", "Nighttime Only",
-                                        "Combination Day & Night", "Unknown"};
 constexpr std::array kSprinklers = {kPromptTypeSprinkler,
                                     "High Angle Impact ( >23\u00B0 )",
                                     "Low Angle Impact ( <23\u00B0 )",
@@ -89,7 +87,7 @@ constexpr std::array kSprinklers = {kPromptTypeSprinkler,
                                     "LEPA",
                                     "Unknown"};
 constexpr std::array<ComboList, 5> kLists = {{
-    {"comboSoilSlope", kSlopes},
+    {"comboSoilSlope", kSoilSlopes},
     {"ComboCommonTillage", kTillages},
     {"ComboSystemManufacturer", kManufacturers},
     {"ComboOperatingTimes", kOperatingTimes},
@@ -141,8 +139,7 @@ void frmCenterPivotData::cmdBtnAutoFill_Click() {
     const std::string question =
         "Would you like to Automatically Enter Measurements\r  First Cup = " + firstCup +
         " feet\r  Cup Spacing = " + cupSpacing + " feet\r";
-    if (CurrentPlatform().messageBox->Show(
-            {question, "Auto Complete Entries", Buttons::YesNoCancel, Icon::None}) != Reply::Yes) {
+    if (Ask(question, "Auto Complete Entries", Buttons::YesNoCancel) != Reply::Yes) {
         return;
     }
     std::int32_t distance = ToLong(firstCup);
@@ -196,8 +193,7 @@ void frmCenterPivotData::StoreRest() {
 
 void frmCenterPivotData::CheckSavedTest() {
     if (!CheckCenterPivotData()) {
-        CurrentPlatform().messageBox->Show(
-            {"Please Correct Errors Before Producing Report.", "Error in Data", Buttons::Ok, Icon::Critical});
+        TellError("Please Correct Errors Before Producing Report.", "Error in Data");
     }
 }
 

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "entry/frmSolidSetData.h"
 
+#include "core/Messages.h"
 #include "core/NumberText.h"
-#include "core/Platform.h"
 #include "core/ProgramState.h"
 #include "core/Text.h"
 #include "entry/GaugeCells.h"
+#include "entry/SharedLists.h"
 
 #include <array>
 #include <string>
@@ -59,16 +60,13 @@ static_assert(AreInRecord(kEntries, kSolidSetFields));
 // kept: a list of its own and not the soil intake table.
 constexpr std::array kSoils = {kPromptSoilType, "Sand",       "Loamy Sand", "Sandy Loam",
                                "Clay Loam",     "Loamy Clay", "Clay",       "Other"};
-constexpr std::array kSlopes = {kPromptSoilSlope, "0-1 Percent", "1-3 Percent", "3> Percent", "Unknown"};
 constexpr std::array kTillages = {kDefaultSolidSetTillage, "Strip Till / Minimum Till", "No Till",
                                   "Other/Unknown"};
 constexpr std::array kManufacturers = {
     kPromptSprinklerManufacturer, "Rainbird", "Senninger", "Nelson", "Toro", "Other", "Unknown"};
-constexpr std::array kOperatingTimes = {kPromptOperatingTimes, "Daytime Only", "Nighttime Only",
-                                        "Combination Day & Night", "Unknown"};
 constexpr std::array<ComboList, 5> kLists = {{
     {"comboSoilType", kSoils},
-    {"comboSoilSlope", kSlopes},
+    {"comboSoilSlope", kSoilSlopes},
     {"ComboCommonTillage", kTillages},
     {"ComboSystemManufacturer", kManufacturers},
     {"ComboOperatingTimes", kOperatingTimes},
@@ -93,10 +91,6 @@ constexpr int kColumnY = 2;
 constexpr DataWindowKind kWindow = {
     .entries = kEntries, .record = kSolidSetFields, .lists = kLists, .grid = &kGrid};
 
-void Tell(const std::string& text, const char* title) {
-    CurrentPlatform().messageBox->Show({text, title, Buttons::Ok, Icon::None});
-}
-
 // kept: "choosen".
 std::string Chosen(int count) {
     return std::string{kCrLf} + "You have choosen " + std::to_string(count) + ".";
@@ -107,8 +101,7 @@ bool IsConfirmed(int countX, int countY) {
     std::string question = "Would you like to Automatically Enter Grid Setup";
     question.append(kCrLf).append("  Number Gu ages in X Axis = ").append(std::to_string(countX));
     question.append(kCrLf).append("  Number Guages in Y Axis = ").append(std::to_string(countY));
-    return CurrentPlatform().messageBox->Show(
-               {question, "Auto Complete Entries", Buttons::YesNoCancel, Icon::None}) == Reply::Yes;
+    return Ask(question, "Auto Complete Entries", Buttons::YesNoCancel) == Reply::Yes;
 }
 
 } // namespace

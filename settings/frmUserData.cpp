@@ -3,7 +3,7 @@
 #include "settings/frmUserData.h"
 
 #include "core/FileNames.h"
-#include "core/Platform.h"
+#include "core/Messages.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
 #include "core/Text.h"
@@ -55,8 +55,7 @@ void frmUserData::StoreTextBoxes() {
 
 // kept: Cancel goes back to the window, as Yes does.
 bool frmUserData::IsToBeLeftIncomplete() {
-    return CurrentPlatform().messageBox->Show({"Would you like to complete this information?",
-                                               "Incomplete Data", Buttons::YesNoCancel, Icon::None}) ==
+    return Ask("Would you like to complete this information?", "Incomplete Data", Buttons::YesNoCancel) ==
            Reply::No;
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/UncaughtError.h"
 
-#include "core/Platform.h"
+#include "core/Messages.h"
 #include "core/Version.h"
 
 #include <cstdlib>
@@ -13,7 +13,7 @@ namespace orvel::ui {
 void EndByError(const RunTimeError& error) {
     const std::string text =
         "Run-time error '" + std::to_string(error.Number()) + "':\r\r" + error.Description();
-    CurrentPlatform().messageBox->Show({text, kProgramTitle, Buttons::Ok, Icon::Critical});
+    TellError(text, kProgramTitle);
     // Windows and event loops may be nested here: nothing more is to run.
     std::_Exit(EXIT_FAILURE);
 }

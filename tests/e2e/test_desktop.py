@@ -119,6 +119,19 @@ class DesktopTest(unittest.TestCase):
             "ClientPhone": "Phone:", "EMail": "E-Mail:", "ClientAddress": "Address:", "ClientCity": "City:",
             "ClientCounty": "County:", "ClientState": "State:", "ClientZip": "Zip Code:"})
 
+    def type_field(self, test, label_of_acres, soil, slope, tillage):
+        """The choices by their places in their lists."""
+        desktop.press("Field Information", "page tab")
+        self.type_texts(test, {"FieldName": "Field Name or Identifier:", "TotalAcres": label_of_acres,
+                               "Crops": "Predominate Crops:", "FieldComments": "Field Comments:"})
+        desktop.select("Soil Type:", soil)
+        desktop.select("Soil Slope:", slope)
+        desktop.select("Common Tillage:", tillage)
+
+    def type_comments(self, test):
+        desktop.press("Comments", "page tab")
+        self.type_texts(test, {"OtherComments": "Comments / Recomendations:"})
+
     def fill_and_type_readings(self, readings):
         """Each reading and Down: nothing else is pressed."""
         desktop.press("Auto Fill")
@@ -144,12 +157,7 @@ class DesktopTest(unittest.TestCase):
 
         self.new_test_in_its_window("Center Pivot", "cpd")
         self.type_client(test)
-        desktop.press("Field Information", "page tab")
-        self.type_texts(test, {"FieldName": "Field Name or Identifier:", "TotalAcres": "Estimated Acres:",
-                               "Crops": "Predominate Crops:", "FieldComments": "Field Comments:"})
-        desktop.select("Soil Type:", 4)
-        desktop.select("Soil Slope:", 2)
-        desktop.select("Common Tillage:", 2)
+        self.type_field(test, "Estimated Acres:", soil=4, slope=2, tillage=2)
         desktop.press("System Information", "page tab")
         self.type_texts(test, {
             "SystemAge": "System Age:", "SprinklerAge": "Sprinker Age:",
@@ -163,8 +171,7 @@ class DesktopTest(unittest.TestCase):
         desktop.select("Type Sprinkler:", 2)
         desktop.press("Has End Gun", "check box")
         desktop.press("Has End Gun Shutoff", "check box")
-        desktop.press("Comments", "page tab")
-        self.type_texts(test, {"OtherComments": "Comments / Recomendations:"})
+        self.type_comments(test)
         desktop.press("Test Data", "page tab")
         self.type_texts(test, {
             "DateofTest": "Date of Test:", "PercentTimer": "Percent Timer Setting:",
@@ -186,12 +193,7 @@ class DesktopTest(unittest.TestCase):
 
         self.new_test_in_its_window("Solid Set", "ssd")
         self.type_client(test)
-        desktop.press("Field Information", "page tab")
-        self.type_texts(test, {"FieldName": "Field Name or Identifier:", "TotalAcres": "Estimated Area:",
-                               "Crops": "Predominate Crops:", "FieldComments": "Field Comments:"})
-        desktop.select("Soil Type:", 3)
-        desktop.select("Soil Slope:", 1)
-        desktop.select("Common Tillage:", 2)
+        self.type_field(test, "Estimated Area:", soil=3, slope=1, tillage=2)
         desktop.press("System Information", "page tab")
         self.type_texts(test, {
             "SprinklerAge": "Sprinker Age:", "SprinklerSpacing": "Sprinkler Spacing:",
@@ -201,8 +203,7 @@ class DesktopTest(unittest.TestCase):
         desktop.select("Sprinkler Manufacturer:", 3)
         desktop.type_into("Sprinker Age:", test["SprinklerAge"])
         desktop.keys("Tab", "Tab", "space", "Down")
-        desktop.press("Comments", "page tab")
-        self.type_texts(test, {"OtherComments": "Comments / Recomendations:"})
+        self.type_comments(test)
         desktop.press("Test Data", "page tab")
         self.type_texts(test, {
             "DateofTest": "Date of Test:", "Duration": "Duration of Test (minutes):",

@@ -40,8 +40,20 @@ protected:
         return lists;
     }
 
+    using Limits = std::map<std::string, std::size_t>;
+
+    // Those of the boxes that both kinds have, but for the other comments.
+    static Limits SharedLimits() {
+        return {{"txtBoxClientName", 35},     {"txtBoxFarmName", 35},        {"txtBoxOperatorName", 35},
+                {"txtBoxClientAddress", 35},  {"txtBoxClientCity", 35},      {"txtBoxClientCounty", 35},
+                {"txtBoxFieldName", 35},      {"txtBoxEMail", 35},           {"txtBoxClientState", 30},
+                {"txtBoxClientZip", 30},      {"txtBoxClientPhone", 30},     {"txtBoxCrops", 75},
+                {"txtBoxFieldComments", 500}, {"txtBoxSystemComments", 500}, {"txtBoxSprinklerAge", 25},
+                {"txtBoxDateofTest", 15}};
+    }
+
     // Expects exactly those boxes to look after their own length while the user types.
-    void ExpectLimits(const std::map<std::string, std::size_t>& limits) {
+    void ExpectLimits(const Limits& limits) {
         FakeDataView& view = this->view;
         for (const auto& [control, limit] : limits) {
             const std::string longest = TextOfLength(limit);

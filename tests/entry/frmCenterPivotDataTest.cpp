@@ -131,24 +131,10 @@ TEST_F(FrmCenterPivotData, FlagsShowAsCheckBoxes) {
 
 TEST_F(FrmCenterPivotData, TheseBoxesHaveALengthLimit) {
     Load();
-    ExpectLimits({{"txtBoxClientName", 35},
-                  {"txtBoxFarmName", 35},
-                  {"txtBoxOperatorName", 35},
-                  {"txtBoxClientAddress", 35},
-                  {"txtBoxClientCity", 35},
-                  {"txtBoxClientCounty", 35},
-                  {"txtBoxFieldName", 35},
-                  {"txtBoxEMail", 35},
-                  {"txtBoxClientState", 30},
-                  {"txtBoxClientZip", 30},
-                  {"txtBoxClientPhone", 30},
-                  {"txtBoxCrops", 75},
-                  {"txtBoxFieldComments", 500},
-                  {"txtBoxSystemComments", 500},
-                  {"txtBoxOtherComments", 2000},
-                  {"txtBoxSystemAge", 25},
-                  {"txtBoxSprinklerAge", 25},
-                  {"txtBoxDateofTest", 15}});
+    Limits limits = SharedLimits();
+    limits["txtBoxOtherComments"] = 2000;
+    limits["txtBoxSystemAge"] = 25;
+    ExpectLimits(limits);
 }
 
 TEST_F(FrmCenterPivotData, ClientNameAndFarmNameLookAfterEachOther) {

@@ -77,23 +77,9 @@ TEST_F(FrmSolidSetData, TextsAreShownAndStoredWithoutSurroundingBlanks) {
 
 TEST_F(FrmSolidSetData, TheseBoxesHaveALengthLimit) {
     Load();
-    ExpectLimits({{"txtBoxClientName", 35},
-                  {"txtBoxFarmName", 35},
-                  {"txtBoxOperatorName", 35},
-                  {"txtBoxClientAddress", 35},
-                  {"txtBoxClientCity", 35},
-                  {"txtBoxClientCounty", 35},
-                  {"txtBoxFieldName", 35},
-                  {"txtBoxEMail", 35},
-                  {"txtBoxClientState", 30},
-                  {"txtBoxClientZip", 30},
-                  {"txtBoxClientPhone", 30},
-                  {"txtBoxCrops", 75},
-                  {"txtBoxFieldComments", 500},
-                  {"txtBoxSystemComments", 500},
-                  {"txtBoxOtherComments", 3000},
-                  {"txtBoxSprinklerAge", 25},
-                  {"txtBoxDateofTest", 15}});
+    Limits limits = SharedLimits();
+    limits["txtBoxOtherComments"] = 3000;
+    ExpectLimits(limits);
 }
 
 TEST_F(FrmSolidSetData, ClientNameAndFarmNameLookAfterThemselvesOnly) {

@@ -81,6 +81,45 @@ protected:
         return captions;
     }
 
+    // Expects the pages that both kinds have, but for the label of the acres.
+    void ExpectSharedPages(const std::string& acres) {
+        Lines pages;
+        for (int page = 0; page < Pages().count(); ++page) {
+            pages.push_back(Pages().tabText(page).remove('&').toStdString());
+        }
+        EXPECT_EQ(pages, (Lines{"Client Information", "Field Information", "System Information", "Test Data",
+                                "Comments"}));
+        EXPECT_EQ(Captions(0), (Lines{"Address:", "City:", "Client Name:", "County:", "E-Mail:", "Farm Name:",
+                                      "Farm Operator:", "Phone:", "State:", "Zip Code:"}));
+        EXPECT_EQ(Captions(1),
+                  (Lines{"Comments:", "Common Tillage:", acres, "Example: Corn-Cotton-Peanuts-Tobacco",
+                         "Field Name or Identifier:", "Predominate Crops:", "Soil Slope:", "Soil Type:"}));
+        EXPECT_EQ(Captions(4), (Lines{"Comments / Recomendations:"}));
+    }
+
+    // Expects their order, and that every page can be used by keyboard and screen reader.
+    void ExpectSharedOrder() {
+        EXPECT_EQ(TabOrderOfPage(0),
+                  (Lines{"txtBoxClientName", "txtBoxFarmName", "txtBoxOperatorName", "txtBoxClientPhone",
+                         "txtBoxEMail", "txtBoxClientAddress", "txtBoxClientCity", "txtBoxClientCounty",
+                         "txtBoxClientState", "txtBoxClientZip"}));
+        EXPECT_EQ(TabOrderOfPage(1),
+                  (Lines{"txtBoxFieldName", "txtBoxTotalAcres", "txtBoxCrops", "comboSoilType",
+                         "comboSoilSlope", "ComboCommonTillage", "txtBoxFieldComments"}));
+        EXPECT_EQ(TabOrderOfPage(4), (Lines{"txtBoxOtherComments"}));
+        for (int page = 0; page < Pages().count(); ++page) {
+            Pages().setCurrentIndex(page);
+            ExpectReachable(*dialog);
+        }
+    }
+
+    // Laptops in the field show no more than 600 lines.
+    void ExpectSmall() {
+        EXPECT_LE(dialog->width(), 1000);
+        EXPECT_LE(dialog->height(), 540);
+        EXPECT_LE(dialog->minimumSizeHint().height(), 540);
+    }
+
     // The controls of each page that Tab goes through, without those below the pages.
     Lines TabOrderOfPage(int page) {
         Pages().setCurrentIndex(page);
