@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QWheelEvent>
 
 namespace orvel::ui {
@@ -92,6 +93,15 @@ void CellEditor::contextMenuEvent(QContextMenuEvent* event) {
 
 void CellEditor::wheelEvent(QWheelEvent* event) {
     QCoreApplication::sendEvent(turned, event);
+}
+
+void CellEditor::paintEvent(QPaintEvent* event) {
+    QLineEdit::paintEvent(event);
+    // Else nothing would tell it from a cell.
+    constexpr int kLine = 2;
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), kLine));
+    painter.drawRect(rect().adjusted(kLine / 2, kLine / 2, -kLine / 2, -kLine / 2));
 }
 
 void CellEditor::PasteDigits() {
