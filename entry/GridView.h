@@ -39,7 +39,7 @@ public:
     virtual void FocusGrid() = 0;
 
     [[nodiscard]] virtual std::string EditorText() const = 0;
-    // The selection stays as far as the new text reaches.
+    // The cursor stays as far as the new text reaches.
     virtual void SetEditorText(const std::string& text) = 0;
     virtual void SelectEditorText(std::size_t start, std::size_t length) = 0;
     virtual void MoveEditor(const Area& area) = 0;

@@ -12,6 +12,8 @@
 #include <QMenu>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
+#include <array>
 
 namespace orvel::ui {
 
@@ -42,6 +44,13 @@ int KeyCode(int key) {
     }
 }
 
+// Shortcuts that do what the Delete key is not to do here.
+bool DeletesForward(const QKeyEvent& event) {
+    return std::ranges::any_of(std::array{QKeySequence::Delete, QKeySequence::DeleteEndOfWord,
+                                          QKeySequence::DeleteEndOfLine, QKeySequence::DeleteCompleteLine},
+                               [&event](QKeySequence::StandardKey key) { return event.matches(key); });
+}
+
 } // namespace
 
 CellEditor::CellEditor(MeasurementGrid& ofGrid, QWidget* parent) : QLineEdit(parent), grid(ofGrid) {
@@ -59,8 +68,11 @@ CellEditor::CellEditor(MeasurementGrid& ofGrid, QWidget* parent) : QLineEdit(par
 }
 
 void CellEditor::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Paste) && (event->modifiers() & Qt::ControlModifier) != 0) {
+    if (event->matches(QKeySequence::Paste) && event->key() != Qt::Key_Insert) {
         PasteDigits();
+        return;
+    }
+    if (HasCommandModifier(*event) && DeletesForward(*event)) {
         return;
     }
     const int code = HasCommandModifier(*event) ? 0 : KeyCode(event->key());
@@ -82,12 +94,14 @@ void CellEditor::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void CellEditor::contextMenuEvent(QContextMenuEvent* event) {
-    auto* menu = createStandardContextMenu();
+    // The toolkit's own menu would paste anything.
+    auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
-        paste->disconnect();
-        connect(paste, &QAction::triggered, this, &CellEditor::PasteDigits);
-    }
+    menu->addAction("&Undo", this, &QLineEdit::undo);
+    menu->addSeparator();
+    menu->addAction("Cu&t", this, &QLineEdit::cut);
+    menu->addAction("&Copy", this, &QLineEdit::copy);
+    menu->addAction("&Paste", this, &CellEditor::PasteDigits);
     menu->popup(event->globalPos());
 }
 

@@ -12,11 +12,34 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QPainter>
 #include <QRadioButton>
+#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
 namespace orvel::ui {
+
+namespace {
+
+// A name that has no room is shortened in its middle; the tip has it whole.
+class FileLabel : public QLabel {
+public:
+    FileLabel() {
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+        setToolTip(shown == text() ? QString() : text());
+        QPainter painter(this);
+        painter.drawText(rect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), shown);
+    }
+};
+
+} // namespace
 
 DataDialog::DataDialog(QWidget* parent, const char* name, const QString& caption)
     : QDialog(parent), FormOf<DataView>(this) {
@@ -47,7 +70,7 @@ void DataDialog::Complete(const std::function<void()>& saveAs) {
     SetTabOrder();
     FilterNumericBoxes();
     logic->Form_Load();
-    resize(kStartSize.expandedTo(minimumSizeHint()));
+    resize(kStartSize.boundedTo(screen()->availableSize()));
 }
 
 void DataDialog::SetTabOrder() {
@@ -101,10 +124,9 @@ void DataDialog::AddMenus(const std::function<void()>& saveAs) {
 QLayout* DataDialog::NewFootLine(const std::function<void()>& saveAs) {
     auto* line = new QHBoxLayout;
     line->addWidget(new QLabel("Current File:"));
-    QLabel* file = NewLabel("labelFile");
-    file->setAccessibleName("Current File:");
-    // A long name does not widen the window.
-    file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* file = new FileLabel;
+    file->setObjectName("labelFile");
+    file->setAccessibleDescription("Current File:");
     line->addWidget(file, 1);
     if (saveAs) {
         line->addWidget(NewCommand("cmdBtnSaveAs", "Save &As", saveAs));
@@ -170,18 +192,6 @@ int DataDialog::RowHeight() const {
     return table->verticalHeader()->defaultSectionSize();
 }
 
-std::string DataDialog::EditorText() const {
-    return FromQt(editor->text());
-}
-
-void DataDialog::SetEditorText(const std::string& text) {
-    const int cursor = editor->cursorPosition();
-    const int start = editor->hasSelectedText() ? editor->selectionStart() : cursor;
-    const int length = editor->selectionLength();
-    editor->setText(ToQt(text));
-    editor->setSelection(std::min(start, static_cast<int>(editor->text().size())), length);
-}
-
 void DataDialog::SelectEditorText(std::size_t start, std::size_t length) {
     editor->setSelection(static_cast<int>(start), static_cast<int>(length));
 }
@@ -191,15 +201,14 @@ void DataDialog::MoveEditor(const Area& area) {
 }
 
 void DataDialog::ShowEditor() {
+    editor->setFocusProxy(nullptr);
     editor->show();
     editor->raise();
 }
 
 void DataDialog::HideEditor() {
-    // Else the focus would go to whatever comes next.
-    if (editor->hasFocus()) {
-        table->setFocus();
-    }
+    // The focus that it has, or that a menu is about to give back to it, is the grid's.
+    editor->setFocusProxy(table);
     editor->hide();
 }
 

@@ -62,8 +62,8 @@ private:
     [[nodiscard]] int HeaderHeight() const override;
     [[nodiscard]] int RowHeight() const override;
     void FocusGrid() override { table->setFocus(); }
-    [[nodiscard]] std::string EditorText() const override;
-    void SetEditorText(const std::string& text) override;
+    [[nodiscard]] std::string EditorText() const override { return Text("txtEdit"); }
+    void SetEditorText(const std::string& text) override { SetText("txtEdit", text); }
     void SelectEditorText(std::size_t start, std::size_t length) override;
     void MoveEditor(const Area& area) override;
     void ShowEditor() override;

@@ -13,6 +13,8 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QRegularExpression>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
@@ -58,6 +60,20 @@ QLineEdit* NewTextLine(std::size_t mostCharacters) {
         box->setMaximumWidth(kShortWidth);
     }
     return box;
+}
+
+// Pasted lines become one, with a blank between them.
+void KeepOneLine(QLineEdit& box) {
+    QObject::connect(&box, &QLineEdit::textEdited, &box, [&box](const QString& text) {
+        static const QRegularExpression lineEnd("\\r\\n|[\\r\\n\\x{2028}\\x{2029}]");
+        QString line = text;
+        line.replace(lineEnd, " ");
+        if (line != text) {
+            const int cursor = box.cursorPosition();
+            box.setText(line);
+            box.setCursorPosition(cursor);
+        }
+    });
 }
 
 bool IsButton(std::string_view control) {
@@ -144,7 +160,16 @@ void DataPages::AddCommentsPage() {
     auto* layout = new QVBoxLayout(page);
     layout->addWidget(label);
     layout->addWidget(box, 1);
-    addTab(page, "Co&mments");
+    AddScrolled(page, "Co&mments");
+}
+
+void DataPages::AddScrolled(QWidget* page, const char* caption) {
+    auto* area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    addTab(area, caption);
 }
 
 void DataPages::AddPage(const Page& page) {
@@ -161,7 +186,7 @@ void DataPages::AddPage(const Page& page) {
     if (page.below != nullptr) {
         layout->addWidget(page.below, 1);
     }
-    addTab(widget, page.caption);
+    AddScrolled(widget, page.caption);
 }
 
 QWidget* DataPages::NewFields(Controls fields) {
@@ -238,6 +263,7 @@ QWidget* DataPages::NewControl(const LabelledControl& labelled) {
         auto* list = new EntryList;
         // A list's own name is the text it shows.
         list->lineEdit()->setAccessibleName(labelled.label);
+        KeepOneLine(*list->lineEdit());
         control = list;
     } else if (name.ends_with("Comments")) {
         auto* box = NewTextLines();
@@ -245,6 +271,7 @@ QWidget* DataPages::NewControl(const LabelledControl& labelled) {
         control = box;
     } else {
         QLineEdit* box = NewTextLine(logic.WidthOf(name));
+        KeepOneLine(*box);
         connect(box, &QLineEdit::textChanged, this, changed);
         control = box;
     }

@@ -15,16 +15,33 @@ namespace orvel::ui {
 
 namespace {
 
-// What stands in a cut text for half a line end would grow into a whole one.
-QString ToLines(const std::string& text) {
-    const bool endsInHalf = text.ends_with('\r');
-    QString lines = ToQt(endsInHalf ? std::string_view(text).substr(0, text.size() - 1) : text);
-    return lines.replace("\r\n", "\n").replace('\r', '\n');
+// The text that a box was given, and how its document holds it. As long as nobody edits it, it is the box's
+// text, so that another program's line ends survive.
+constexpr const char* kGivenText = "givenText";
+constexpr const char* kGivenDocument = "givenDocument";
+
+std::string LinesText(const QPlainTextEdit& box) {
+    // Not the plain text, in which a no-break space is a blank.
+    QString text = box.document()->toRawText();
+    if (text == box.property(kGivenDocument).toString()) {
+        return box.property(kGivenText).toByteArray().toStdString();
+    }
+    for (const QChar lineEnd : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)}) {
+        text.replace(lineEnd, "\r\n");
+    }
+    return FromQt(text);
 }
 
-void SetLines(QPlainTextEdit& box, const std::string& text) {
+void SetLines(QPlainTextEdit& box, std::string_view text) {
+    if (text.ends_with('\r')) {
+        // Half a line end at the end of a cut text would grow into a whole one.
+        text.remove_suffix(1);
+    }
     const int position = box.textCursor().position();
-    const QString lines = ToLines(text);
+    QString lines = ToQt(text);
+    lines.replace("\r\n", "\n").replace('\r', '\n');
+    box.setProperty(kGivenText, QByteArray(text.data(), static_cast<qsizetype>(text.size())));
+    box.setProperty(kGivenDocument, QString(lines).replace('\n', QChar(QChar::ParagraphSeparator)));
     box.setPlainText(lines);
     QTextCursor cursor = box.textCursor();
     cursor.setPosition(std::min(position, static_cast<int>(lines.size())));
@@ -38,7 +55,7 @@ std::string ControlText(const QWidget& window, std::string_view control) {
         return FromQt(box->text());
     }
     if (const auto* lines = FindControl<QPlainTextEdit>(window, control)) {
-        return FromQt(lines->toPlainText().replace('\n', "\r\n"));
+        return LinesText(*lines);
     }
     return FromQt(FindControl<QComboBox>(window, control)->currentText());
 }

@@ -15,7 +15,8 @@
 namespace orvel::ui {
 
 // The text of the window's control of that name: a text box of one line or many, or a combo box. The line
-// ends of many lines are CR LF in the text; half of one, at the end, is dropped.
+// ends of many lines are CR LF in the text, or what they were for as long as nobody edits it; half of one, at
+// the end of a cut text, is dropped.
 [[nodiscard]] std::string ControlText(const QWidget& window, std::string_view control);
 // The same controls and labels. The cursor stays where the user types.
 void SetControlText(const QWidget& window, std::string_view control, const std::string& text);

@@ -152,7 +152,9 @@ void MeasurementTable::mousePressEvent(QMouseEvent* event) {
 void MeasurementTable::mouseDoubleClickEvent(QMouseEvent* event) {
     QTableView::mouseDoubleClickEvent(event);
     TellPointer(*event);
-    Run([this] { grid.gridTest_DblClick(); });
+    if (event->button() == Qt::LeftButton) {
+        Run([this] { grid.gridTest_DblClick(); });
+    }
 }
 
 void MeasurementTable::TellPointer(const QMouseEvent& event) {

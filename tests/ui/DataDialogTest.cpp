@@ -4,7 +4,11 @@
 
 #include "ui/CenterPivotDataDialog.h"
 
+#include <QAccessible>
 #include <QAction>
+#include <QClipboard>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 // What both data windows share, shown by the center-pivot one.
@@ -99,6 +103,135 @@ TEST_F(DataDialog, CommentsKeepTheirLinesInTheFile) {
     EXPECT_EQ(ReadTest<CenterPivotTest>(file).OtherComments.Trimmed(), "one\r\ntwo");
 }
 
+TEST_F(DataDialog, CommentsThatNobodyEditsStayWhatTheyAre) {
+    const std::string foreign = "a\xA0no-break space\nLF\rCR\r\nCR LF";
+    Program().centerPivotTest.FieldComments = foreign;
+    Program().centerPivotTest.SystemComments = std::string(498, 'x') + "\ny";
+    Program().centerPivotTest.OtherComments = foreign;
+    ui::CenterPivotDataDialog other(nullptr, surroundings);
+    EXPECT_EQ(surroundings.Said(), Lines{}) << "no limit is passed";
+    auto& edited = Find<QPlainTextEdit>(other, "txtBoxOtherComments");
+    edited.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&edited, "!");
+    Find<QAction>(other, "mnuFileSave").trigger();
+    const auto saved = ReadTest<CenterPivotTest>(file);
+    EXPECT_EQ(saved.FieldComments.Trimmed(), foreign);
+    EXPECT_EQ(saved.SystemComments.Trimmed(), std::string(498, 'x') + "\ny");
+    EXPECT_EQ(saved.OtherComments.Trimmed(), "a\xA0no-break space\r\nLF\r\nCR\r\nCR LF!");
+}
+
+TEST_F(DataDialog, ACommentCutInItsMiddleLeavesTheCursorThere) {
+    auto& box = Get<QPlainTextEdit>("txtBoxFieldComments");
+    box.setPlainText(QString(500, 'a'));
+    QTextCursor cursor = box.textCursor();
+    cursor.setPosition(3);
+    box.setTextCursor(cursor);
+    QTest::keyClicks(&box, "x");
+    EXPECT_EQ(surroundings.Said().size(), 1U);
+    EXPECT_EQ(box.textCursor().position(), 4);
+}
+
+TEST_F(DataDialog, PastedLinesBecomeOneInABoxOfOneLine) {
+    QApplication::clipboard()->setText("Alder\nCreek\r\nFarms");
+    QLineEdit& box = Box("txtBoxClientName");
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), "Alder Creek Farms");
+    auto& list = Get<QComboBox>("comboSoilSlope");
+    list.lineEdit()->selectAll();
+    QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(list.currentText(), "Alder Creek Farms");
+}
+
+TEST_F(DataDialog, APastedTextIsCutToo) {
+    QApplication::clipboard()->setText(QString(2500, 'a'));
+    QLineEdit& box = Box("txtBoxOperatorName");
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), QString(35, 'a'));
+    auto& comments = Get<QPlainTextEdit>("txtBoxOtherComments");
+    comments.selectAll();
+    comments.paste();
+    EXPECT_EQ(comments.toPlainText(), QString(2000, 'a'));
+    EXPECT_EQ(surroundings.Said().size(), 2U);
+}
+
+TEST_F(DataDialog, ALongFileNameIsShortenedAndDoesNotWidenTheWindow) {
+    auto& label = Get<QLabel>("labelFile");
+    const int width = dialog->minimumSizeHint().width();
+    label.setText("<b>" + QString(200, 'n') + "</b>.cpd");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(dialog->minimumSizeHint().width(), width);
+    label.repaint();
+    EXPECT_EQ(label.toolTip(), label.text());
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), label.text());
+    label.setText("short.cpd");
+    label.repaint();
+    EXPECT_EQ(label.toolTip(), "");
+}
+
+TEST_F(DataDialog, StartsNoLargerThanTheScreenAndWhereItHasRoomNoPageScrolls) {
+    constexpr QSize kStartSize(850, 520);
+    EXPECT_EQ(dialog->size(), kStartSize.boundedTo(dialog->screen()->availableSize()));
+    dialog->resize(kStartSize);
+    for (int page = 0; page < Pages().count(); ++page) {
+        Pages().setCurrentIndex(page);
+        const auto& area = dynamic_cast<QScrollArea&>(*Pages().widget(page));
+        EXPECT_TRUE(QTest::qWaitFor([&area] {
+            return !area.verticalScrollBar()->isVisible() && !area.horizontalScrollBar()->isVisible();
+        })) << page;
+    }
+}
+
+TEST_F(DataDialog, APageThatHasNoRoomScrolls) {
+    dialog->resize(500, 300);
+    Pages().setCurrentIndex(2);
+    Box("txtBoxEndGunAcres").setFocus(Qt::TabFocusReason);
+    EXPECT_LE(dialog->width(), 520);
+    EXPECT_LE(dialog->height(), 300);
+    const auto& area = dynamic_cast<QScrollArea&>(*Pages().widget(2));
+    EXPECT_TRUE(QTest::qWaitFor([&area] { return area.verticalScrollBar()->isVisible(); }));
+    for (const char* name : {"cmdBtnSaveAs", "cmdBtnCloseWithoutSaving", "cmdBtnExitAndSave"}) {
+        const auto& button = Get<QPushButton>(name);
+        EXPECT_TRUE(dialog->rect().contains(QRect(button.mapTo(dialog.get(), QPoint(0, 0)), button.size())));
+    }
+}
+
+TEST_F(DataDialog, ShortcutsAndMnemonicsReachEveryCommand) {
+    Lines shortcuts;
+    for (const QAction* action : dialog->findChildren<QAction*>()) {
+        if (!action->shortcut().isEmpty()) {
+            shortcuts.push_back((action->objectName() + " " + action->shortcut().toString()).toStdString());
+        }
+    }
+    std::ranges::sort(shortcuts);
+    EXPECT_EQ(shortcuts, (Lines{"mnuEditCopy Ctrl+C", "mnuEditCut Ctrl+X", "mnuEditUndo Ctrl+Z",
+                                "mnuFileClose Ctrl+W", "mnuFileSave Ctrl+S", "mnuFileSaveAs Ctrl+Shift+S",
+                                "mnuHelpInstructions F1", "mnueditPaste Ctrl+V"}));
+    for (int page = 0; page < Pages().count(); ++page) {
+        EXPECT_TRUE(Pages().tabText(page).contains('&')) << page;
+    }
+}
+
+TEST_F(DataDialog, DiscardAndCloseAskTheirOwnQuestions) {
+    surroundings.replies = {Reply::No, Reply::Cancel};
+    Get<QAction>("mnuFileDiscard").trigger();
+    Get<QAction>("mnuFileClose").trigger();
+    EXPECT_EQ(
+        surroundings.Said(),
+        (Lines{"box [Close Data Window] Really close without saving data? (YesNoCancel)", kSaveQuestion}));
+}
+
+TEST_F(DataDialog, AListShowsATextThatItLacks) {
+    Program().centerPivotTest = NewCenterPivotTest();
+    Program().centerPivotTest.TypeSprinkler = "Home-made";
+    ui::CenterPivotDataDialog other(nullptr, surroundings);
+    EXPECT_EQ(Find<QComboBox>(other, "comboSoilType").currentText(), "Choose Soil Type");
+    EXPECT_EQ(Find<QComboBox>(other, "comboSoilType").currentIndex(), -1);
+    EXPECT_EQ(Find<QComboBox>(other, "ComboTypeSprinkler").currentText(), "Home-made");
+    EXPECT_EQ(Find<QComboBox>(other, "comboSoilSlope").currentIndex(), 0);
+}
+
 TEST_F(DataDialog, TabLeavesAComment) {
     Pages().setCurrentIndex(1);
     auto& box = Get<QPlainTextEdit>("txtBoxFieldComments");
@@ -132,6 +265,7 @@ TEST_F(DataDialog, TheWheelTurnsNoComboBoxThatLacksTheFocus) {
     Get<QPlainTextEdit>("txtBoxSystemComments").setFocus();
     turn();
     EXPECT_EQ(list.currentText(), "Valley");
+    EXPECT_EQ(list.focusPolicy(), Qt::StrongFocus);
     list.setFocus();
     turn();
     EXPECT_EQ(list.currentText(), "Zimmatic/Lindsay");

@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/MeasurementTable.h"
 
-#include "tests/ui/DataDialogTest.h"
-#include "ui/CenterPivotDataDialog.h"
+#include "tests/ui/GridTest.h"
 #include "ui/SolidSetDataDialog.h"
 
-#include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -18,48 +16,9 @@ namespace {
 
 using testing::Lines;
 
-constexpr int kTestPage = 3;
+using testing::kTestPage;
 
-class MeasurementTable : public testing::DataDialogTest {
-protected:
-    MeasurementTable() {
-        Open<ui::CenterPivotDataDialog>(kCenterPivot, "pivot-1978.cpd");
-        Pages().setCurrentIndex(kTestPage);
-        Table().setFocus();
-    }
-
-    std::string Cell(int row, int column) {
-        return Table().model()->index(row - 1, column).data().toString().toStdString();
-    }
-    void GoTo(int row, int column) { Table().setCurrentIndex(Table().model()->index(row - 1, column)); }
-    int CurrentRow() { return Table().currentIndex().row() + 1; }
-    int CurrentColumn() { return Table().currentIndex().column(); }
-    QPoint PlaceOf(int row, int column) {
-        return Table().visualRect(Table().model()->index(row - 1, column)).center();
-    }
-    void ClickCell(int row, int column) {
-        QTest::mouseClick(Table().viewport(), Qt::LeftButton, {}, PlaceOf(row, column));
-    }
-    void DoubleClickCell(int row, int column) {
-        ClickCell(row, column);
-        QTest::mouseDClick(Table().viewport(), Qt::LeftButton, {}, PlaceOf(row, column));
-    }
-    // The cell's rectangle in the window.
-    QRect InWindow(int row, int column) {
-        const QRect cell = Table().visualRect(Table().model()->index(row - 1, column));
-        return {Table().viewport()->mapTo(dialog.get(), cell.topLeft()), cell.size()};
-    }
-    QRect EditorInWindow() { return {Editor().mapTo(dialog.get(), QPoint(0, 0)), Editor().size()}; }
-    // Keys go where the user's go.
-    static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    }
-    static void Type(const char* text) {
-        for (const char* each = text; *each != '\0'; ++each) {
-            QTest::keyClick(QApplication::focusWidget(), *each);
-        }
-    }
-};
+class MeasurementTable : public testing::GridTest {};
 
 TEST_F(MeasurementTable, HasItsColumns) {
     Lines headers;
@@ -72,6 +31,10 @@ TEST_F(MeasurementTable, HasItsColumns) {
     EXPECT_EQ(Table().columnWidth(0), 75);
     EXPECT_EQ(Table().columnWidth(1), 107);
     EXPECT_EQ(Table().columnWidth(2), 107);
+    EXPECT_EQ(Table().horizontalHeader()->sectionResizeMode(0), QHeaderView::Fixed);
+    EXPECT_EQ(Table().verticalHeader()->sectionResizeMode(0), QHeaderView::Fixed);
+    EXPECT_TRUE(Table().verticalHeader()->isHidden());
+    EXPECT_EQ(Table().viewport()->width(), 75 + 107 + 107);
     for (int column = 0; column < 3; ++column) {
         EXPECT_EQ(Table().model()->index(0, column).data(Qt::TextAlignmentRole).toInt(),
                   int{Qt::AlignCenter});
@@ -95,48 +58,17 @@ TEST_F(MeasurementTable, TypingAReadingAndDownIsAllItTakes) {
     EXPECT_EQ(Cell(4, 2), "130");
 }
 
-TEST_F(MeasurementTable, TheEditorCoversItsCellExactly) {
-    GoTo(5, 2);
-    Type("7");
-    EXPECT_TRUE(Editor().isVisible());
-    EXPECT_EQ(EditorInWindow(), InWindow(5, 2));
-    EXPECT_EQ(Editor().height(), Editor().sizeHint().height());
-    EXPECT_EQ(Editor().palette().color(QPalette::Base), dialog->palette().color(QPalette::Light));
-    EXPECT_EQ(Editor().font(), Table().font());
-}
-
-TEST_F(MeasurementTable, TheEditorMovesWithItsCell) {
-    GoTo(5, 2);
-    Type("7");
-    const QRect before = EditorInWindow();
-    dialog->resize(dialog->width() + 120, dialog->height() + 60);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return EditorInWindow() != before; }));
-    EXPECT_TRUE(Editor().isVisible());
-    EXPECT_EQ(EditorInWindow(), InWindow(5, 2));
-}
-
-TEST_F(MeasurementTable, AResizeThatHidesItsCellTakesTheText) {
-    int lastRow = 1;
-    while (Table().viewport()->rect().contains(Table().visualRect(Table().model()->index(lastRow, 2)))) {
-        ++lastRow;
-    }
-    GoTo(lastRow, 2);
-    Type("7");
-    const int height = dialog->height();
-    dialog->resize(dialog->width(), dialog->minimumSizeHint().height());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !Editor().isVisible(); }));
-    EXPECT_LT(dialog->height(), height);
-    EXPECT_EQ(Cell(lastRow, 2), "07");
-}
-
 TEST_F(MeasurementTable, EnterTakesTheTextAndBeginsNoOtherEdit) {
     Type("7");
     Press(Qt::Key_Return);
     EXPECT_EQ(Cell(1, 2), "07");
     EXPECT_FALSE(Editor().isVisible());
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
-    QApplication::sendEvent(&Table(), &held);
-    EXPECT_FALSE(Editor().isVisible());
+    for (const auto& [key, text] :
+         {std::pair{Qt::Key_Return, "\r"}, {Qt::Key_Enter, "\r"}, {Qt::Key_Escape, "\x1b"}}) {
+        QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, text, true);
+        QApplication::sendEvent(&Table(), &held);
+        EXPECT_FALSE(Editor().isVisible()) << key;
+    }
 }
 
 TEST_F(MeasurementTable, EscapeDropsTheText) {
@@ -173,7 +105,12 @@ TEST_F(MeasurementTable, KeysThatBeginNothing) {
         Press(key);
         EXPECT_FALSE(Editor().isVisible()) << key;
     }
+    // As a real key it has a character.
+    QKeyEvent deletes(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f");
+    QApplication::sendEvent(&Table(), &deletes);
+    EXPECT_FALSE(Editor().isVisible());
     Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_5, Qt::MetaModifier);
     Press(Qt::Key_5, Qt::AltModifier);
     EXPECT_FALSE(Editor().isVisible());
     EXPECT_EQ(Cell(1, 2), "141");
@@ -204,73 +141,6 @@ TEST_F(MeasurementTable, TheFixedColumnCannotBeGoneTo) {
     EXPECT_EQ(CurrentColumn(), 2);
 }
 
-TEST_F(MeasurementTable, TheEditorTakesDigitsOnly) {
-    Type("1a.2-3 ");
-    EXPECT_EQ(Editor().text(), "123");
-    Press(Qt::Key_Backspace);
-    EXPECT_EQ(Editor().text(), "12");
-    Press(Qt::Key_4, Qt::AltModifier);
-    Press(Qt::Key_X, Qt::AltModifier);
-    EXPECT_EQ(Editor().text(), "124");
-}
-
-TEST_F(MeasurementTable, APasteEntersItsDigits) {
-    QApplication::clipboard()->setText("a1.2\n3");
-    Type("9");
-    Press(Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Editor().text(), "9123");
-    Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(Editor().text(), "9");
-    Press(Qt::Key_A, Qt::ControlModifier);
-    Press(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(Editor().text(), "");
-    EXPECT_EQ(QApplication::clipboard()->text(), "9");
-}
-
-TEST_F(MeasurementTable, DeleteAndF9DeleteTheCell) {
-    for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_F9}) {
-        GoTo(1, 2);
-        const std::string next = Cell(2, 2);
-        Type("7");
-        surroundings.replies = {Reply::Yes};
-        Press(key);
-        EXPECT_EQ(surroundings.Said(),
-                  (Lines{"box [Delete Cell] Would you like to delete this cell?|This will shift cells below "
-                         "this up.|Really delete this cell?| (YesNoCancel)"}));
-        EXPECT_EQ(Cell(1, 2), next);
-        EXPECT_FALSE(Editor().isVisible());
-        EXPECT_TRUE(Table().hasFocus());
-        EXPECT_EQ(CurrentRow(), 299);
-    }
-}
-
-TEST_F(MeasurementTable, InsertAndF10InsertACell) {
-    for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_F10}) {
-        const std::string before = Cell(2, 2);
-        GoTo(2, 2);
-        Type("7");
-        surroundings.replies = {Reply::Yes};
-        Press(key);
-        EXPECT_EQ(surroundings.Said(),
-                  (Lines{"box [Insert Cell] Would you like to insert a cell before this one?|This will shift "
-                         "cells below this down.|Really insert a new cell?| (YesNoCancel)"}));
-        EXPECT_EQ(Cell(2, 2), "");
-        EXPECT_EQ(Cell(3, 2), before);
-        EXPECT_FALSE(Editor().isVisible());
-        EXPECT_TRUE(Table().hasFocus());
-        EXPECT_EQ(CurrentRow(), 2);
-    }
-}
-
-TEST_F(MeasurementTable, ARefusedDeleteGoesOnEditing) {
-    Type("75");
-    surroundings.replies = {Reply::No};
-    Press(Qt::Key_Delete);
-    EXPECT_EQ(surroundings.Said().size(), 1U);
-    EXPECT_TRUE(Editor().isVisible());
-    EXPECT_EQ(Editor().text(), "75");
-}
-
 TEST_F(MeasurementTable, ClickingAnotherCellTakesTheTextIntoTheOneThatIsLeft) {
     Type("7");
     ClickCell(4, 2);
@@ -281,6 +151,8 @@ TEST_F(MeasurementTable, ClickingAnotherCellTakesTheTextIntoTheOneThatIsLeft) {
 }
 
 TEST_F(MeasurementTable, ADoubleClickEditsTheCellsText) {
+    DoubleClickCell(1, 2);
+    EXPECT_EQ(Editor().selectedText(), "141") << "the row below the header";
     DoubleClickCell(3, 2);
     EXPECT_TRUE(Editor().isVisible());
     EXPECT_EQ(Editor().selectedText(), "122");
@@ -290,6 +162,9 @@ TEST_F(MeasurementTable, ADoubleClickEditsTheCellsText) {
 TEST_F(MeasurementTable, ADoubleClickBesideTheCellsEditsNothing) {
     DoubleClickCell(3, 0);
     EXPECT_FALSE(Editor().isVisible());
+    QTest::mouseDClick(Table().viewport(), Qt::RightButton, {}, PlaceOf(3, 2));
+    EXPECT_FALSE(Editor().isVisible()) << "the right button";
+    GoTo(1, 2);
     QWidget* header = Table().horizontalHeader()->viewport();
     QTest::mouseClick(header, Qt::LeftButton, {}, QPoint(200, 5));
     QTest::mouseDClick(header, Qt::LeftButton, {}, QPoint(200, 5));
@@ -308,13 +183,11 @@ TEST_F(MeasurementTable, ScrollingTakesTheText) {
     EXPECT_TRUE(Table().hasFocus());
 }
 
-TEST_F(MeasurementTable, TheWheelOverTheEditorScrollsTheGrid) {
+TEST_F(MeasurementTable, ACellIsLeftBeforeTheGridScrolls) {
     Type("7");
-    QWheelEvent wheel(QPointF(5, 5), Editor().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&Editor(), &wheel);
-    EXPECT_GT(Table().verticalScrollBar()->value(), 0);
+    GoTo(200, 2);
     EXPECT_EQ(Cell(1, 2), "07");
+    EXPECT_EQ(Cell(200, 2), "");
 }
 
 TEST_F(MeasurementTable, ACellOutOfSightIsNotEdited) {
@@ -347,17 +220,6 @@ TEST_F(MeasurementTable, AClickOnTheBackgroundTakesTheText) {
     EXPECT_FALSE(Editor().isVisible());
 }
 
-TEST_F(MeasurementTable, AnotherControlLeavesTheEditorOpen) {
-    Type("7");
-    QTest::mouseClick(&Box("txtBoxPercentTimer"), Qt::LeftButton);
-    EXPECT_TRUE(Editor().isVisible());
-    Get<QAction>("mnuFileSave").trigger();
-    surroundings.Said();
-    EXPECT_TRUE(Editor().isVisible());
-    EXPECT_EQ(Cell(1, 2), "141");
-    EXPECT_EQ(Program().centerPivotTest.Gauges[1].Volume, 141.0F);
-}
-
 TEST_F(MeasurementTable, AWindowInFrontForAWhileTakesNothing) {
     Type("7");
     for (const Qt::FocusReason reason :
@@ -369,13 +231,6 @@ TEST_F(MeasurementTable, AWindowInFrontForAWhileTakesNothing) {
     QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
     QApplication::sendEvent(&Table(), &tab);
     EXPECT_FALSE(Editor().isVisible());
-}
-
-TEST_F(MeasurementTable, TabLeavesTheEditorForTheGrid) {
-    Type("7");
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(Table().hasFocus());
-    EXPECT_EQ(Cell(1, 2), "07");
 }
 
 TEST_F(MeasurementTable, UpAndDownStopAtTheEnds) {
