@@ -65,7 +65,7 @@ QLineEdit* NewTextLine(std::size_t mostCharacters) {
 // Pasted lines become one, with a blank between them.
 void KeepOneLine(QLineEdit& box) {
     QObject::connect(&box, &QLineEdit::textEdited, &box, [&box](const QString& text) {
-        static const QRegularExpression lineEnd("\\r\\n|[\\r\\n\\x{2028}\\x{2029}]");
+        static const QRegularExpression lineEnd(R"(\r\n|[\r\n\x{2028}\x{2029}])");
         QString line = text;
         line.replace(lineEnd, " ");
         if (line != text) {
