@@ -154,7 +154,8 @@ std::string TextOf(std::span<const std::byte> bytes) {
 
 void PutText(std::span<std::byte> bytes, std::string_view text) {
     std::ranges::fill(bytes, std::byte{' '});
-    std::memcpy(bytes.data(), text.data(), std::min(text.size(), bytes.size()));
+    const auto kept = std::as_bytes(std::span(text.substr(0, bytes.size())));
+    std::ranges::copy(kept, bytes.begin());
 }
 
 Flag FlagOf(std::span<const std::byte> bytes) {

@@ -169,11 +169,14 @@ void DataPages::AddScrolled(QWidget* page, const char* caption) {
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
+    // The pages keep the background of their frame.
+    area->viewport()->setAutoFillBackground(false);
+    page->setAutoFillBackground(false);
     addTab(area, caption);
 }
 
 void DataPages::AddPage(const Page& page) {
-    constexpr int kGap = 24;
+    constexpr int kGap = 16;
     auto* widget = new QWidget;
     auto* layout = new QVBoxLayout(widget);
     auto* line = new QHBoxLayout;
@@ -219,10 +222,12 @@ QWidget* DataPages::NewFieldsToFill(Controls fields) {
 }
 
 QWidget* DataPages::NewLine(Controls fields) {
-    constexpr int kBoxWidth = 56;
+    constexpr int kBoxWidth = 46;
+    constexpr int kGap = 4;
     auto* widget = new QWidget;
     auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kGap);
     for (const LabelledControl& each : fields) {
         QWidget* control = NewControl(each);
         control->setFixedWidth(kBoxWidth);
