@@ -45,7 +45,7 @@ std::string SyntaxComplaint(std::string what, const std::string& token) {
 }
 
 // The shortest text that reads back as the same Single. The library's own is sometimes a digit longer.
-std::string NumberText(float value) {
+std::string ShortestText(float value) {
     if (value == 0 && std::signbit(value)) {
         return "-0.0"; // "-0" would be read as a whole number, which has no such zero
     }
@@ -108,7 +108,7 @@ void Write(const Json& json, Layout& layout, std::string& text) {
         }
         layout.Close(text, ']');
     } else if (json.is_number_float()) {
-        text += NumberText(json.get<float>());
+        text += ShortestText(json.get<float>());
     } else {
         // A file's name may hold bytes that are no UTF-8; they are replaced.
         text += json.dump(-1, ' ', false, Json::error_handler_t::replace);

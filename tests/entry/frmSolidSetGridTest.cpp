@@ -22,7 +22,7 @@ protected:
     FrmSolidSetGrid() { Load(); }
 
     // Sets the grid up; the replies are those to its question, when it asks.
-    Lines SetUp(const std::string& countX, const std::string& countY, std::deque<Reply> replies = {}) {
+    Lines SetUpGrid(const std::string& countX, const std::string& countY, std::deque<Reply> replies = {}) {
         view.Put("txtBoxNumberX", countX);
         view.Put("txtBoxNumberY", countY);
         surroundings.replies = std::move(replies);
@@ -32,13 +32,13 @@ protected:
     void ExpectRefusals(const std::vector<std::pair<std::string, std::string>>& counts,
                         const std::string& message) {
         for (const auto& [countX, countY] : counts) {
-            EXPECT_EQ(SetUp(countX, countY), (Lines{message})) << countX << " by " << countY;
+            EXPECT_EQ(SetUpGrid(countX, countY), (Lines{message})) << countX << " by " << countY;
         }
         ExpectUntouched();
     }
 
     void ExpectRaised(ErrorNumber number, const std::string& countX, const std::string& countY) {
-        ExpectRunTimeError(number, [&] { (void)SetUp(countX, countY); });
+        ExpectRunTimeError(number, [&] { (void)SetUpGrid(countX, countY); });
         view.logsCells = true;
         EXPECT_EQ(Said(), Lines{});
         ExpectUntouched();
@@ -110,9 +110,9 @@ TEST_F(FrmSolidSetGrid, ACountThatIsNoNumberIsAnError) {
 
 TEST_F(FrmSolidSetGrid, TheQuestionNamesBothCounts) {
     for (const Reply reply : {Reply::No, Reply::Cancel, Reply::None}) {
-        EXPECT_EQ(SetUp("4", "3", {reply}), (Lines{Question("4", "3")}));
+        EXPECT_EQ(SetUpGrid("4", "3", {reply}), (Lines{Question("4", "3")}));
     }
-    EXPECT_EQ(SetUp(" 12 ", "2.5", {Reply::No}), (Lines{Question("12", "2")})) << "as numbers";
+    EXPECT_EQ(SetUpGrid(" 12 ", "2.5", {Reply::No}), (Lines{Question("12", "2")})) << "as numbers";
     ExpectUntouched();
 }
 
@@ -120,7 +120,7 @@ TEST_F(FrmSolidSetGrid, PositionsAreFilledYRunningFastest) {
     NumberCells(1, 5000);
     NumberCells(2, 6000);
     NumberCells(kVolume, 1000);
-    EXPECT_EQ(SetUp("2", "3", {Reply::Yes}), (Lines{Question("2", "3")}));
+    EXPECT_EQ(SetUpGrid("2", "3", {Reply::Yes}), (Lines{Question("2", "3")}));
     EXPECT_EQ(Position(1), "1 1");
     EXPECT_EQ(Position(2), "1 2");
     EXPECT_EQ(Position(3), "1 3");
@@ -138,7 +138,7 @@ TEST_F(FrmSolidSetGrid, PositionsAreFilledYRunningFastest) {
 }
 
 TEST_F(FrmSolidSetGrid, TwelveBy25FillTheWholeGrid) {
-    EXPECT_EQ(SetUp("12", "25", {Reply::Yes}), (Lines{Question("12", "25")}));
+    EXPECT_EQ(SetUpGrid("12", "25", {Reply::Yes}), (Lines{Question("12", "25")}));
     for (int row = 1; row <= 300; ++row) {
         EXPECT_EQ(Position(row),
                   std::to_string((row - 1) / 25 + 1) + " " + std::to_string((row - 1) % 25 + 1));
@@ -146,9 +146,9 @@ TEST_F(FrmSolidSetGrid, TwelveBy25FillTheWholeGrid) {
 }
 
 TEST_F(FrmSolidSetGrid, OneByOneAndOneBy300AreTheLimits) {
-    EXPECT_EQ(SetUp("1", "300", {Reply::Yes}), (Lines{Question("1", "300")}));
+    EXPECT_EQ(SetUpGrid("1", "300", {Reply::Yes}), (Lines{Question("1", "300")}));
     EXPECT_EQ(Position(300), "1 300");
-    EXPECT_EQ(SetUp("1", "1", {Reply::Yes}), (Lines{Question("1", "1")}));
+    EXPECT_EQ(SetUpGrid("1", "1", {Reply::Yes}), (Lines{Question("1", "1")}));
     EXPECT_EQ(Position(1), "1 1");
     EXPECT_EQ(Position(2), " ");
     EXPECT_EQ(Position(300), " ");
@@ -156,7 +156,7 @@ TEST_F(FrmSolidSetGrid, OneByOneAndOneBy300AreTheLimits) {
 
 TEST_F(FrmSolidSetGrid, CountsFollowTheLocale) {
     UseNumberLocale(GermanNumbers());
-    EXPECT_EQ(SetUp("3,5", "1.5", {Reply::No}), (Lines{Question("4", "2")}));
+    EXPECT_EQ(SetUpGrid("3,5", "1.5", {Reply::No}), (Lines{Question("4", "2")}));
 }
 
 } // namespace

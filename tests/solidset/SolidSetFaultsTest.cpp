@@ -13,7 +13,6 @@ namespace {
 using testing::kEarlier;
 using testing::kHundredCc;
 
-constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 // Run-time errors that end the calculation of a solid-set test.
