@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/frmMain.h"
 
+#include "core/EditCommands.h"
 #include "core/FileNames.h"
 #include "core/Messages.h"
 #include "core/Platform.h"
@@ -18,10 +19,6 @@ namespace orvel {
 namespace {
 
 namespace fs = std::filesystem;
-
-void SendCtrl(char letter) {
-    CurrentPlatform().keySender->SendCtrl(letter);
-}
 
 } // namespace
 
@@ -136,19 +133,19 @@ void frmMain::mnuFileExit_Click() {
 }
 
 void frmMain::mnuEditUndo_Click() {
-    SendCtrl('Z');
+    SendUndo();
 }
 
 void frmMain::mnuEditCut_Click() {
-    SendCtrl('X');
+    SendCut();
 }
 
 void frmMain::mnuEditCopy_Click() {
-    SendCtrl('C');
+    SendCopy();
 }
 
 void frmMain::mnuEditPaste_Click() {
-    SendCtrl('V');
+    SendPaste();
 }
 
 void frmMain::mnuDataEntry_Click() {

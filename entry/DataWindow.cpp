@@ -3,6 +3,7 @@
 #include "entry/DataWindow.h"
 
 #include "core/CodePage.h"
+#include "core/EditCommands.h"
 #include "core/EntryRules.h"
 #include "core/FileNames.h"
 #include "core/Messages.h"
@@ -13,14 +14,6 @@
 #include <vector>
 
 namespace orvel {
-
-namespace {
-
-void SendCtrl(char letter) {
-    CurrentPlatform().keySender->SendCtrl(letter);
-}
-
-} // namespace
 
 DataWindow::DataWindow(DataView& ofWindow, ProgramWindows& ofProgram, const DataWindowKind& ofTest)
     : view(ofWindow), windows(ofProgram), kind(ofTest), form(ofWindow, ofTest.entries, ofTest.record),
@@ -78,19 +71,19 @@ void DataWindow::mnuFileClose_Click() {
 }
 
 void DataWindow::mnuEditUndo_Click() {
-    SendCtrl('Z');
+    SendUndo();
 }
 
 void DataWindow::mnuEditCut_Click() {
-    SendCtrl('X');
+    SendCut();
 }
 
 void DataWindow::mnuEditCopy_Click() {
-    SendCtrl('C');
+    SendCopy();
 }
 
 void DataWindow::mnueditPaste_Click() {
-    SendCtrl('V');
+    SendPaste();
 }
 
 void DataWindow::mnuHelpInstructions_Click() {

@@ -200,8 +200,8 @@ void frmCenterPivotData::CheckSavedTest() {
 void frmCenterPivotData::StoreTravelTime(std::string_view control) {
     if (Trim(View().Text(control)).empty()) {
         View().SetText(control, "0");
+        StoreText(control);
     }
-    StoreText(control);
 }
 
 void frmCenterPivotData::StoreIntakeRates() {

@@ -25,6 +25,15 @@ void SayMissing(const std::string& what) {
         {what + " is not part of this version yet.", kProgramTitle, Buttons::Ok, Icon::Information});
 }
 
+// Returns when the user has closed the dialog. A dialog often closes together with the box that it asked in,
+// and some window managers find nobody then to give the focus to: its owner takes it.
+void ShowModal(QDialog&& dialog) {
+    dialog.exec();
+    if (QWidget* owner = dialog.parentWidget()) {
+        owner->activateWindow();
+    }
+}
+
 } // namespace
 
 Desktop::Desktop() {
@@ -69,23 +78,23 @@ void Desktop::ShowMain() {
 }
 
 void Desktop::ShowCenterPivotData() {
-    CenterPivotDataDialog(WindowInFront(), *this).exec();
+    ShowModal(CenterPivotDataDialog(WindowInFront(), *this));
 }
 
 void Desktop::ShowSolidSetData() {
-    SolidSetDataDialog(WindowInFront(), *this).exec();
+    ShowModal(SolidSetDataDialog(WindowInFront(), *this));
 }
 
 void Desktop::ShowUserData() {
-    UserDataDialog(WindowInFront()).exec();
+    ShowModal(UserDataDialog(WindowInFront()));
 }
 
 void Desktop::ShowSoilIntake() {
-    SoilIntakeDialog(WindowInFront()).exec();
+    ShowModal(SoilIntakeDialog(WindowInFront()));
 }
 
 void Desktop::ShowAbout() {
-    AboutDialog(WindowInFront()).exec();
+    ShowModal(AboutDialog(WindowInFront()));
 }
 
 void Desktop::ShowReport() {

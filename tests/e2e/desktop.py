@@ -98,6 +98,14 @@ class Desktop:
         self.keys("ctrl+a")
         self.type(text)
 
+    def wait_until_active(self, title):
+        """Until the keys go to the window of that title."""
+        def is_active():
+            answer = subprocess.run(["xdotool", "getwindowfocus", "getwindowname"], capture_output=True, text=True,
+                                    check=False)
+            return answer.stdout.strip() == title
+        self._wait(is_active, "the keys to go to " + title)
+
     def type(self, text):
         self._xdotool("type", "--delay", "5", text.replace("\n", "\r"))
 

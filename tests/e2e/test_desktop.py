@@ -214,6 +214,18 @@ class DesktopTest(unittest.TestCase):
         self.save_and_exit("Solid Set Data Entry")
         self.assertEqual((self.folder / "typed.ssd").read_bytes(), self.built(test, "built.ssd"))
 
+    def test_the_main_window_has_the_keys_again_when_a_data_window_has_closed(self):
+        self.new_test_in_its_window("Center Pivot", "cpd")
+        for _ in range(3):
+            desktop.keys("alt+w")
+            desktop.wait_for_text("Really close without saving data?")
+            desktop.keys("alt+y")
+            desktop.wait_until_gone("Center Pivot Data Entry", "dialog")
+            desktop.wait_until_active("ORVEL")
+            desktop.keys("ctrl+d")
+            desktop.find("Center Pivot Data Entry", "dialog")
+            desktop.wait_until_active("Center Pivot Data Entry")
+
     def test_a_soil_left_unchosen_ends_the_program(self):
         self.new_test_in_its_window("Center Pivot", "cpd")
         before = (self.folder / "typed.cpd").read_bytes()
