@@ -27,6 +27,10 @@ namespace orvel {
 // The path that a text of the program's code page names.
 [[nodiscard]] std::filesystem::path PathOfText(std::string_view text);
 
+// The file of that name in the folder, or, where there is none, the first one whose name differs only in the
+// case of its letters; an empty path where there is none either.
+[[nodiscard]] std::filesystem::path FindFile(const std::filesystem::path& folder, std::string_view name);
+
 // Whether the name ends in "." and the extension, in any case ("TEST.CPD" has "cpd").
 [[nodiscard]] bool HasExtension(const std::filesystem::path& path, std::string_view extension);
 

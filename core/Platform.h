@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Printing.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -124,6 +126,8 @@ struct Platform {
     KeySender* keySender = nullptr;
     SettingsStore* settingsStore = nullptr;
     EventPump* eventPump = nullptr;
+    PrintDialogService* printDialog = nullptr;
+    Printer* printer = nullptr;
 };
 
 [[nodiscard]] const Platform& CurrentPlatform();

@@ -16,6 +16,11 @@ namespace orvel {
 inline constexpr const char* kCenterPivot = "centerPivot";
 inline constexpr const char* kSolidSet = "solidSet";
 
+struct SavedPrinterSettings {
+    Orientation orientation = Orientation::Portrait;
+    int copies = 1;
+};
+
 // What the whole program shares for one run: the open test, the settings, and what was last said.
 struct ProgramState {
     CenterPivotTest centerPivotTest;
@@ -35,6 +40,9 @@ struct ProgramState {
     Reply messageReply = Reply::None;
     // The last run-time error that a routine trapped and showed to the user.
     std::optional<RunTimeError> shownError;
+
+    // The printer's settings as they were before the last print command of the report.
+    std::optional<SavedPrinterSettings> savedPrinterSettings;
 };
 
 [[nodiscard]] ProgramState& Program();

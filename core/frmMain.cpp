@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/frmMain.h"
 
+#include "core/DataEntry.h"
 #include "core/EditCommands.h"
 #include "core/FileNames.h"
 #include "core/Messages.h"
@@ -150,7 +151,7 @@ void frmMain::mnuEditPaste_Click() {
 
 void frmMain::mnuDataEntry_Click() {
     if (FileExists(CurrentFile())) {
-        ShowDataWindow();
+        ShowDataWindow(windows);
     } else if (Ask("You have not created or opened a data file.\rWould you like to open an existing file?",
                    "Open Existing File", Buttons::YesNo) == Reply::Yes) {
         mnuFileOpen_Click();
@@ -185,11 +186,7 @@ void frmMain::mnuHelpAbout_Click() {
 }
 
 void frmMain::cmdBtnEditExisting_Click() {
-    if (!FileExists(CurrentFile())) {
-        Tell("Please create a new file or open an existing file first", "No Data File Open");
-        return;
-    }
-    ShowDataWindow();
+    EditOpenTest(windows);
 }
 
 void frmMain::cmdBtnNewDataFile_Click() {
@@ -235,14 +232,6 @@ void frmMain::OpenFile(const fs::path& path) {
 
 void frmMain::ShowFileName(const fs::path& path) {
     view.SetStatusText("File: " + FileNameText(path));
-}
-
-void frmMain::ShowDataWindow() {
-    if (Program().testKind == kCenterPivot) {
-        windows.ShowCenterPivotData();
-    } else {
-        windows.ShowSolidSetData();
-    }
 }
 
 } // namespace orvel

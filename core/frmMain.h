@@ -70,7 +70,6 @@ public:
 private:
     void OpenFile(const std::filesystem::path& path);
     void ShowFileName(const std::filesystem::path& path);
-    void ShowDataWindow();
 
     View& view;
     ProgramWindows& windows;

@@ -3,6 +3,7 @@
 #include "report/MemoryRichTextBox.h"
 
 #include "core/CodePage.h"
+#include "core/RunTimeError.h"
 #include "core/SafeFile.h"
 #include "core/Text.h"
 #include "report/RtfReader.h"
@@ -15,6 +16,7 @@ namespace orvel {
 void MemoryRichTextBox::SetText(std::string_view newText) {
     text = newText;
     caretFormat.color.reset();
+    caretFormat.isUnderlined = false;
     formatNumbers.assign(text.size(), NumberOf(caretFormat));
     selectionStart = 0;
     selectionLength = 0;
@@ -70,6 +72,10 @@ void MemoryRichTextBox::Load(const std::filesystem::path& file) {
 
 void MemoryRichTextBox::Save(const std::filesystem::path& file) const {
     ReplaceFile(file, WriteRtf(Document()), Flush::ToDisk);
+}
+
+std::size_t MemoryRichTextBox::DrawRange(const FormatRange& /*range*/) {
+    Raise(ErrorNumber::InvalidProcedureCall);
 }
 
 RichDocument MemoryRichTextBox::Document() const {

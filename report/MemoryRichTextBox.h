@@ -36,6 +36,10 @@ public:
     void Load(const std::filesystem::path& file) override;
     void Save(const std::filesystem::path& file) const override;
 
+    // It has no letters to draw: raises Invalid procedure call.
+    std::size_t DrawRange(const FormatRange& range) override;
+    void FreeDrawing() override {}
+
     // The text with its formats; a CR LF, or either alone, ends a paragraph. Any other control character but
     // tab, which no document holds, is a blank, so that columns stay below each other.
     [[nodiscard]] RichDocument Document() const;

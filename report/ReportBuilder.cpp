@@ -9,6 +9,7 @@
 #include "core/RunTimeError.h"
 #include "report/DataGraph.h"
 #include "report/PercentTimerTable.h"
+#include "report/ReportFont.h"
 #include "report/RepresentativeLayout.h"
 #include "solidset/SolidSet.h"
 #include "solidset/SolidSetChecks.h"
@@ -40,7 +41,7 @@ void ReportBuilder::BuildCenterPivotReport() {
         return;
     }
     CalculateCenterPivot();
-    ResetBox();
+    UseReportFont(reportRTB);
     SetFirstSection(CenterPivotHeadingText());
     AppendSection(CenterPivotFieldText());
     AppendSection(CenterPivotSystemText());
@@ -58,7 +59,7 @@ void ReportBuilder::BuildSolidSetReport() {
         if (!Begin(SolidSetDataCheck)) {
             return;
         }
-        ResetBox();
+        UseReportFont(reportRTB);
         CalculateSolidSet();
         SetFirstSection(SolidSetHeadingText());
         AppendSection(SolidSetFieldText());
@@ -89,14 +90,6 @@ bool ReportBuilder::Begin(bool (*check)()) {
     }
     reportRTB.SetText(kReportNotCreated);
     return false;
-}
-
-void ReportBuilder::ResetBox() {
-    reportRTB.Select(0, 0);
-    reportRTB.SetSelectionBold(false);
-    reportRTB.SetSelectionItalic(false);
-    reportRTB.SetFontName("Courier New");
-    reportRTB.SetSelectionFontSize(9);
 }
 
 void ReportBuilder::SetFirstSection(std::string_view section) {

@@ -38,7 +38,6 @@ public:
 private:
     // True when a report may be built.
     [[nodiscard]] bool Begin(bool (*check)());
-    void ResetBox();
     void SetFirstSection(std::string_view section);
     void AppendSection(std::string_view section);
     void AppendGraph(void (*append)(std::string& text, ColorRunTable& runs));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "report/FormatRange.h"
 #include "report/RichText.h"
 
 #include <cstddef>
@@ -20,7 +21,8 @@ public:
     virtual ~RichTextBox() = default;
 
     [[nodiscard]] virtual std::string Text() const = 0;
-    // Replaces everything by a text in the format at the caret, without colour, and puts the caret before it.
+    // Replaces everything by a text in the format at the caret, without colour and line below, and puts the
+    // caret before it.
     virtual void SetText(std::string_view text) = 0;
 
     virtual void Select(std::size_t start, std::size_t length) = 0;
@@ -44,6 +46,12 @@ public:
     // Replaces everything by a rich-text file, and writes one. Both raise FileError.
     virtual void Load(const std::filesystem::path& file) = 0;
     virtual void Save(const std::filesystem::path& file) const = 0;
+
+    // Draws as many whole lines of the range as fit its rectangle, and one at least. Returns the position of
+    // the first character that did not fit, or the text's length.
+    virtual std::size_t DrawRange(const FormatRange& range) = 0;
+    // Frees what drawing has kept for the next page.
+    virtual void FreeDrawing() = 0;
 };
 
 } // namespace orvel

@@ -111,5 +111,23 @@ TEST_F(FileNamesTest, MatchesExtensionsInAnyCase) {
     }
 }
 
+TEST_F(FileNamesTest, FindsAFileWhateverTheCaseOfItsLetters) {
+    const testing::TemporaryFolder folder;
+    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), "");
+    EXPECT_EQ(FindFile(folder / "none", "help.rtf"), "");
+    EXPECT_EQ(FindFile("", "help.rtf"), "");
+
+    std::filesystem::create_directory(folder / "HELP.RTF");
+    testing::PutContents(folder / "help.rtf.txt", "");
+    testing::PutContents(folder / "xhelp.rtf", "");
+    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), "") << "a folder is no file";
+
+    testing::PutContents(folder / "hElp.rtf", "");
+    testing::PutContents(folder / "Help.RTF", "");
+    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), folder / "Help.RTF") << "the first by name";
+    testing::PutContents(folder / "help.rtf", "");
+    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), folder / "help.rtf") << "the very name";
+}
+
 } // namespace
 } // namespace orvel

@@ -1,0 +1,547 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "report/frmReport.h"
+
+#include "centerpivot/CenterPivot.h"
+#include "core/RecordFiles.h"
+#include "solidset/SolidSet.h"
+#include "tests/report/PrintableBox.h"
+#include "tests/support/CompleteUserSettings.h"
+#include "tests/support/TestFiles.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+
+namespace orvel {
+
+namespace {
+
+using testing::Contents;
+using testing::Lines;
+using testing::PutContents;
+using testing::TemporaryFolder;
+
+constexpr const char* kFileSaveError =
+    "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
+
+// Notes what is done to the box, but for the colouring of single marks.
+class ReportBox : public testing::PrintableBox {
+public:
+    explicit ReportBox(testing::Surroundings& ofTest) : PrintableBox(ofTest), surroundings(ofTest) {}
+
+    void SetReadOnly(bool isReadOnly) override {
+        surroundings.Note(isReadOnly ? "read-only" : "not read-only");
+        PrintableBox::SetReadOnly(isReadOnly);
+    }
+    void SetSelectionFontName(const std::string& name) override {
+        surroundings.Note("selection font " + name);
+        PrintableBox::SetSelectionFontName(name);
+    }
+    void SetSelectionFontSize(int points) override {
+        surroundings.Note("selection size " + std::to_string(points));
+        PrintableBox::SetSelectionFontSize(points);
+    }
+
+private:
+    testing::Surroundings& surroundings;
+};
+
+// A store that keeps numbers of the window, and notes what is asked and told.
+class NotingStore : public SettingsStore {
+public:
+    explicit NotingStore(testing::Surroundings& ofTest) : surroundings(ofTest) {}
+
+    std::map<std::string, std::string> values;
+
+    std::string Get(const std::string& section, const std::string& key,
+                    const std::string& fallback) override {
+        surroundings.Note("get " + section + "/" + key + " or " + fallback);
+        const auto found = values.find(key);
+        return found == values.end() ? fallback : found->second;
+    }
+    void Save(const std::string& section, const std::string& key, const std::string& value) override {
+        surroundings.Note("keep " + section + "/" + key + " " + value);
+        values[key] = value;
+    }
+
+private:
+    testing::Surroundings& surroundings;
+};
+
+class FrmReport : public testing::PrintingTest, public frmReport::View {
+protected:
+    FrmReport() {
+        ResetCenterPivot();
+        ResetSolidSet();
+        Program().userSettings = testing::CompleteUserSettings();
+        Platform platform = CurrentPlatform();
+        platform.settingsStore = &store;
+        UsePlatform(platform);
+    }
+
+    ~FrmReport() override {
+        ResetCenterPivot();
+        ResetSolidSet();
+    }
+
+    static void OpenPivot() {
+        Program().testKind = kCenterPivot;
+        Program().centerPivotFile = testing::Example("pivot-1978.cpd");
+        Program().centerPivotTest = ReadTest<CenterPivotTest>(Program().centerPivotFile);
+    }
+
+    static void OpenSolid() {
+        Program().testKind = kSolidSet;
+        Program().solidSetFile = testing::Example("solid-set-triangle.ssd");
+        Program().solidSetTest = ReadTest<SolidSetTest>(Program().solidSetFile);
+    }
+
+    // A loaded window on the report of 1978.
+    void LoadPivot() {
+        OpenPivot();
+        window.Form_Load();
+        Said();
+    }
+
+    [[nodiscard]] bool ShowsReport() const { return reportBox.Text().starts_with("     "); }
+
+    TemporaryFolder folder;
+    NotingStore store{surroundings};
+    ReportBox reportBox{surroundings};
+    float left = 0;
+    float top = 0;
+    float width = 12000;
+    float height = 9000;
+    bool isMinimized = false;
+    frmReport window{*this, surroundings};
+
+private:
+    static std::string Text(float length) { return std::to_string(static_cast<int>(length)); }
+
+    RichTextBox& ReportRTB() override { return reportBox; }
+    void SetReportSize(float newWidth, float newHeight) override {
+        surroundings.Note("report " + Text(newWidth) + " by " + Text(newHeight));
+    }
+    void ShowPressed(frmReport::ToolButton button, bool isPressed) override {
+        surroundings.Note("button " + std::to_string(static_cast<int>(button)) +
+                          (isPressed ? " pressed" : " unpressed"));
+    }
+    void SetStatusText(const std::string& text) override { surroundings.Note("status " + text); }
+    [[nodiscard]] float Left() const override { return left; }
+    [[nodiscard]] float Top() const override { return top; }
+    [[nodiscard]] float Width() const override { return width; }
+    [[nodiscard]] float Height() const override { return height; }
+    void SetLeft(float newLeft) override {
+        surroundings.Note("left " + Text(newLeft));
+        left = newLeft;
+    }
+    void SetTop(float newTop) override {
+        surroundings.Note("top " + Text(newTop));
+        top = newTop;
+    }
+    void SetWidth(float newWidth) override {
+        surroundings.Note("width " + Text(newWidth));
+        width = newWidth;
+    }
+    void SetHeight(float newHeight) override {
+        surroundings.Note("height " + Text(newHeight));
+        height = newHeight;
+    }
+    [[nodiscard]] bool IsMinimized() const override { return isMinimized; }
+    [[nodiscard]] float InnerWidth() const override { return width - 100; }
+    [[nodiscard]] float InnerHeight() const override { return height - 400; }
+    void Unload() override { surroundings.Note("unload"); }
+};
+
+TEST_F(FrmReport, LoadingReadsTheGeometryThenBuildsThenLocks) {
+    OpenPivot();
+    window.Form_Load();
+    EXPECT_EQ(Said(), (Lines{"get Settings/MainLeft or 1000", "get Settings/MainTop or 1000",
+                             "get Settings/MainWidth or 6500", "get Settings/MainHeight or 6500", "left 1000",
+                             "top 1000", "width 6500", "height 6500", "selection size 9",
+                             "button 5 unpressed", "button 6 unpressed", "read-only", "button 7 pressed",
+                             "status Current File: pivot-1978.cpd", "selection font Courier New",
+                             "selection size 9"}));
+    EXPECT_TRUE(ShowsReport());
+    EXPECT_NE(reportBox.Text().find("Center Pivot Water Application Uniformity Test"), std::string::npos);
+}
+
+TEST_F(FrmReport, LoadingShowsASolidSetReport) {
+    OpenSolid();
+    window.Form_Load();
+    const Lines said = Said();
+    EXPECT_NE(std::ranges::find(said, "status Current File: solid-set-triangle.ssd"), said.end());
+    EXPECT_NE(reportBox.Text().find("Solid Set Water Application Uniformity Test"), std::string::npos);
+    EXPECT_TRUE(reportBox.IsReadOnly());
+}
+
+TEST_F(FrmReport, AnotherKindOpensAnEmptyReport) {
+    OpenPivot();
+    for (const char* kind : {"", "centerpivot", "solidset"}) {
+        Program().testKind = kind;
+        window.Form_Load();
+        const Lines said = Said();
+        EXPECT_NE(std::ranges::find(said, "status Current File: "), said.end()) << kind;
+        EXPECT_EQ(reportBox.Text(), "") << kind;
+        EXPECT_TRUE(reportBox.IsReadOnly()) << kind;
+    }
+}
+
+TEST_F(FrmReport, KeptNumbersAreSinglesWithAPoint) {
+    UseNumberLocale(testing::GermanNumbers());
+    left = 1500.5F;
+    top = -30;
+    width = 10000;
+    height = 8000;
+    window.Form_Unload();
+    EXPECT_EQ(Said(), (Lines{"keep Settings/MainLeft 1500.5", "keep Settings/MainTop -30",
+                             "keep Settings/MainWidth 10000", "keep Settings/MainHeight 8000"}));
+    left = top = width = height = 0;
+    Program().testKind = "";
+    window.Form_Load();
+    Said();
+    EXPECT_EQ(left, 1500.5F);
+    EXPECT_EQ(top, -30);
+    EXPECT_EQ(width, 10000);
+    EXPECT_EQ(height, 8000);
+}
+
+TEST_F(FrmReport, AKeptNumberThatIsNoneIsTheDefault) {
+    store.values = {{"MainLeft", "left"}, {"MainTop", ""}, {"MainWidth", "1e99"}, {"MainHeight", "7000"}};
+    Program().testKind = "";
+    window.Form_Load();
+    Said();
+    EXPECT_EQ(left, 1000);
+    EXPECT_EQ(top, 1000);
+    EXPECT_EQ(width, 6500);
+    EXPECT_EQ(height, 7000);
+}
+
+TEST_F(FrmReport, AMinimizedWindowKeepsNothingAndDoesNotResize) {
+    isMinimized = true;
+    width = 10;
+    window.Form_Unload();
+    window.Form_Resize();
+    EXPECT_EQ(Said(), Lines{});
+}
+
+TEST_F(FrmReport, TheReportKeepsItsDistanceFromTheWindow) {
+    window.Form_Resize();
+    EXPECT_EQ(Said(), (Lines{"report 11400 by 7600"}));
+}
+
+TEST_F(FrmReport, AWindowBelowItsLeastSizeGrows) {
+    height = 4199;
+    width = 9659;
+    window.Form_Resize();
+    EXPECT_EQ(Said(), (Lines{"height 4200", "width 9660", "report 9060 by 2800"}));
+    window.Form_Resize();
+    EXPECT_EQ(Said(), (Lines{"report 9060 by 2800"})) << "4200 and 9660 are enough";
+}
+
+TEST_F(FrmReport, RefreshBuildsAnewAndLocks) {
+    LoadPivot();
+    window.tbToolBar_ButtonClick("Lock");
+    window.mnuFileClose_Click();
+    Said();
+    window.mnuRefreshReport_Click();
+    EXPECT_EQ(Said(), (Lines{"selection size 9", "button 5 unpressed", "button 6 unpressed", "read-only",
+                             "button 7 pressed", "status Current File: pivot-1978.cpd"}));
+    EXPECT_TRUE(ShowsReport());
+}
+
+TEST_F(FrmReport, RefreshOfAnotherKindChangesTheStatusOnly) {
+    LoadPivot();
+    Program().testKind = "none";
+    window.tbToolBar_ButtonClick("Refresh");
+    EXPECT_EQ(Said(), (Lines{"status Current File: "}));
+    EXPECT_TRUE(ShowsReport());
+}
+
+TEST_F(FrmReport, AskingAgainBuildsAnewAndLocks) {
+    LoadPivot();
+    OpenSolid();
+    window.tbToolBar_ButtonClick("Lock");
+    window.ShowAgain();
+    EXPECT_EQ(Said().back(), "button 7 pressed");
+    EXPECT_TRUE(reportBox.IsReadOnly());
+    EXPECT_NE(reportBox.Text().find("Solid Set Water Application Uniformity Test"), std::string::npos);
+
+    Program().testKind = "none";
+    window.tbToolBar_ButtonClick("Lock");
+    window.ShowAgain();
+    EXPECT_TRUE(reportBox.IsReadOnly());
+    Said();
+}
+
+TEST_F(FrmReport, AnErrorInTheDataShowsOneSentence) {
+    OpenPivot();
+    Program().centerPivotTest.ClientName = "";
+    window.Form_Load();
+    Said();
+    EXPECT_EQ(reportBox.Text(), "Errors in data file - report not created.");
+    EXPECT_TRUE(reportBox.IsReadOnly());
+}
+
+TEST_F(FrmReport, ARunTimeErrorOfACenterPivotBuildIsToldAndTheTextIsEmpty) {
+    LoadPivot();
+    Program().centerPivotTest.PercentTimer = "forty";
+    window.mnuRefreshReport_Click();
+    EXPECT_EQ(Said(), (Lines{"selection size 9",
+                             "box [Error] Sorry, an error occurred generating report...|Error Number: 13|"
+                             "Error Description: Type mismatch|Error Source: ORVEL| (Ok, Critical)",
+                             "button 5 unpressed", "button 6 unpressed", "read-only", "button 7 pressed",
+                             "status Current File: pivot-1978.cpd"}));
+    EXPECT_EQ(reportBox.Text(), "");
+    EXPECT_EQ(Program().messageText, "Sorry, an error occurred generating report...\rError Number: 13\r"
+                                     "Error Description: Type mismatch\rError Source: ORVEL\r");
+    EXPECT_EQ(Program().messageReply, Reply::Ok);
+}
+
+TEST_F(FrmReport, OpenShowsARichTextFile) {
+    LoadPivot();
+    PutContents(folder / "other.rtf", R"({\rtf1 Some {\b bold} text})");
+    surroundings.paths = {folder / "other.rtf"};
+    window.mnuFileOpen_Click();
+    EXPECT_EQ(Said(), (Lines{"open [Open File] RTF Files (*.rtf)|*.rtf; ; 0x0; ", "button 5 unpressed",
+                             "button 6 unpressed", "status Current RTF File: other.rtf"}));
+    EXPECT_EQ(reportBox.Text(), "Some bold text");
+    EXPECT_TRUE(reportBox.IsReadOnly());
+
+    window.mnuRefreshReport_Click();
+    EXPECT_TRUE(ShowsReport());
+    EXPECT_EQ(Said().back(), "status Current File: pivot-1978.cpd");
+}
+
+TEST_F(FrmReport, AnOpenThatIsCancelledOrOfAVanishedFileChangesNothing) {
+    LoadPivot();
+    surroundings.paths = {{}, folder / "gone.rtf", folder.Path()};
+    for (int i = 0; i < 3; ++i) {
+        window.tbToolBar_ButtonClick("Open");
+        EXPECT_EQ(Said().size(), 1U) << "the dialog alone";
+        EXPECT_TRUE(ShowsReport());
+    }
+}
+
+TEST_F(FrmReport, AFileThatCannotBeReadIsToldAndTheReportStays) {
+    LoadPivot();
+    // Reading the memory of a process from its beginning is an error, whoever reads.
+    surroundings.paths = {"/proc/self/mem"};
+    window.mnuFileOpen_Click();
+    EXPECT_EQ(
+        Said().at(1),
+        "box [Open File] /proc/self/mem can't be opened: cannot read: Input/output error. (Ok, Critical)");
+    EXPECT_TRUE(ShowsReport());
+}
+
+TEST_F(FrmReport, CloseEmptiesTheTextAndKeepsTheWindow) {
+    LoadPivot();
+    window.mnuFileClose_Click();
+    EXPECT_EQ(Said(), Lines{});
+    EXPECT_EQ(reportBox.Text(), "");
+}
+
+TEST_F(FrmReport, SaveAsWritesRichText) {
+    LoadPivot();
+    surroundings.paths = {folder / "report.rtf", folder / "again.rtf"};
+    window.mnuFileSaveAs_Click();
+    EXPECT_EQ(Said(), (Lines{"save [Save Report As - Enter File Name] All Files (*.rtf)|*.rtf; rtf; "
+                             "0x2806; "}));
+    testing::PrintableBox read(surroundings);
+    read.Load(folder / "report.rtf");
+    EXPECT_EQ(read.Document(), reportBox.Document());
+
+    window.tbToolBar_ButtonClick("Save");
+    Said();
+    EXPECT_EQ(Contents(folder / "again.rtf"), Contents(folder / "report.rtf"));
+}
+
+TEST_F(FrmReport, SavingAsHtmlWritesThePlainTextBetweenItsLines) {
+    LoadPivot();
+    reportBox.SetText("5 < 6 > 4 & more\r\nü");
+    surroundings.paths = {folder / "report.html"};
+    window.mnuSaveHTML_Click();
+    EXPECT_EQ(Said(), (Lines{"save [Save Report as HTML] All Files (*.html)|*.html; rtf; 0x2806; "}));
+    EXPECT_EQ(Contents(folder / "report.html"), "<HTML><HEAD></HEAD><PRE>\r\n\r\n5 < 6 > 4 & more\r\nü\r\n"
+                                                "\r\n</PRE></BODY></HTML>\r\n");
+}
+
+TEST_F(FrmReport, ASaveThatIsCancelledWritesNothing) {
+    LoadPivot();
+    surroundings.paths = {{}, {}};
+    window.mnuFileSaveAs_Click();
+    window.mnuSaveHTML_Click();
+    EXPECT_EQ(Said().size(), 2U) << "the dialogs alone";
+    EXPECT_TRUE(std::filesystem::is_empty(folder.Path()));
+}
+
+TEST_F(FrmReport, ASaveThatFailsIsToldAndTheReportStays) {
+    LoadPivot();
+    surroundings.paths = {folder / "none/report.rtf", folder / "none/report.html"};
+    window.mnuFileSaveAs_Click();
+    EXPECT_EQ(Said().at(1), kFileSaveError);
+    window.mnuSaveHTML_Click();
+    EXPECT_EQ(Said().at(1), kFileSaveError);
+    EXPECT_TRUE(ShowsReport());
+}
+
+TEST_F(FrmReport, PrintingTakesItsStepsInTheirOrder) {
+    LoadPivot();
+    printDialog.chosenCopies = 3;
+    reportBox.pageEnds = {100, 200};
+    window.mnuFilePrint_Click();
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006",
+                             "orientation 1",
+                             "printer's copies 1",
+                             "blank",
+                             "twips",
+                             "draw from 0 to -1 on page 1",
+                             "new page",
+                             "blank",
+                             "draw from 100 to -1 on page 2",
+                             "new page",
+                             "blank",
+                             "draw from 200 to -1 on page 3",
+                             "end of document",
+                             "free",
+                             "blank",
+                             "twips",
+                             "draw from 0 to -1 on page 1",
+                             "end of document",
+                             "free",
+                             "blank",
+                             "twips",
+                             "draw from 0 to -1 on page 1",
+                             "end of document",
+                             "free",
+                             "dialog's copies 1"}));
+    EXPECT_EQ(window.PrintOrientation(), Orientation::Portrait);
+}
+
+TEST_F(FrmReport, PrintingSavesThePrintersSettingsBeforeItsDialog) {
+    LoadPivot();
+    printer.orientation = Orientation::Landscape;
+    printDialog.error = ErrorNumber::CancelWasSelected;
+    window.mnuFilePrint_Click();
+    ASSERT_TRUE(Program().savedPrinterSettings);
+    EXPECT_EQ(Program().savedPrinterSettings->orientation, Orientation::Landscape);
+    EXPECT_EQ(Program().savedPrinterSettings->copies, 7);
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"})) << "cancelled without a word";
+    EXPECT_EQ(printer.orientation, Orientation::Landscape) << "nobody sets them back";
+}
+
+TEST_F(FrmReport, PrintingRemembersTheOrientationOfTheDialog) {
+    LoadPivot();
+    printDialog.chosenOrientation = Orientation::Landscape;
+    window.tbToolBar_ButtonClick("Print");
+    EXPECT_EQ(window.PrintOrientation(), Orientation::Landscape);
+    EXPECT_EQ(printer.orientation, Orientation::Landscape);
+    Said();
+    printDialog.chosenOrientation = static_cast<Orientation>(0);
+    window.mnuFilePrint_Click();
+    EXPECT_EQ(window.PrintOrientation(), Orientation::Portrait) << "anything but landscape";
+    Said();
+}
+
+TEST_F(FrmReport, AnEmptyTextIsToldBehindTheDialog) {
+    LoadPivot();
+    window.mnuFileClose_Click();
+    printDialog.chosenCopies = 2;
+    window.mnuFilePrint_Click();
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006", "orientation 1",
+                             "box [Printing Error] There is no text to print. (Ok)"}));
+    EXPECT_EQ(printDialog.chosenCopies, 2);
+}
+
+TEST_F(FrmReport, APrinterThatFailsIsToldAndTheReportStays) {
+    LoadPivot();
+    printer.blankError = ErrorNumber::DeviceIoError;
+    window.mnuFilePrint_Click();
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006", "orientation 1", "printer's copies 1",
+                             "blank", "job dropped",
+                             "box [Printing Error] The text could not be printed: Device I/O error. (Ok, "
+                             "Critical)"}));
+    EXPECT_TRUE(ShowsReport());
+}
+
+TEST_F(FrmReport, BoldIsTheOppositeOfTheWholeText) {
+    LoadPivot();
+    reportBox.Select(10, 20);
+    reportBox.SetSelectionBold(true);
+    window.tbToolBar_ButtonClick("Bold");
+    EXPECT_EQ(Said(), (Lines{"button 5 pressed"})) << "bold in part is not bold";
+    EXPECT_EQ(reportBox.SelectionStart(), 0U);
+    EXPECT_EQ(reportBox.SelectionLength(), 0U);
+    reportBox.Select(0, reportBox.Text().size());
+    EXPECT_TRUE(reportBox.IsSelectionBold());
+    EXPECT_FALSE(reportBox.IsSelectionItalic());
+
+    window.tbToolBar_ButtonClick("Bold");
+    EXPECT_EQ(Said(), (Lines{"button 5 unpressed"}));
+    reportBox.Select(10, 1);
+    EXPECT_FALSE(reportBox.IsSelectionBold());
+}
+
+TEST_F(FrmReport, ItalicIsTheOppositeOfTheWholeText) {
+    LoadPivot();
+    window.tbToolBar_ButtonClick("Italic");
+    EXPECT_EQ(Said(), (Lines{"button 6 pressed"}));
+    reportBox.Select(0, reportBox.Text().size());
+    EXPECT_TRUE(reportBox.IsSelectionItalic());
+    EXPECT_FALSE(reportBox.IsSelectionBold());
+    window.tbToolBar_ButtonClick("Italic");
+    EXPECT_EQ(Said(), (Lines{"button 6 unpressed"}));
+}
+
+TEST_F(FrmReport, LockIsTheOppositeOfWhatItIs) {
+    LoadPivot();
+    window.tbToolBar_ButtonClick("Lock");
+    EXPECT_EQ(Said(), (Lines{"not read-only", "button 7 unpressed"}));
+    window.tbToolBar_ButtonClick("Lock");
+    EXPECT_EQ(Said(), (Lines{"read-only", "button 7 pressed"}));
+}
+
+TEST_F(FrmReport, EditCommandsAreKeys) {
+    window.mnuUndo_Click();
+    window.mnuCut_Click();
+    window.mnuCopy_Click();
+    window.mnuPaste_Click();
+    EXPECT_EQ(Said(), (Lines{"Ctrl+Z", "Ctrl+X", "Ctrl+C", "Ctrl+V"}));
+    window.mnuEditCopy_Click();
+    EXPECT_EQ(Said(), Lines{}) << "Copy Report does nothing";
+}
+
+TEST_F(FrmReport, LeadsToTheOtherWindows) {
+    window.mnuMainWindow_Click();
+    window.mnuInstructions_Click();
+    window.mnuHelpContents_Click();
+    window.tbToolBar_ButtonClick("Help");
+    window.mnuHelpAbout_Click();
+    window.mnuFileExit_Click();
+    window.tbToolBar_ButtonClick("Back");
+    EXPECT_EQ(Said(), (Lines{"show frmMain", "view Help", "view Help", "view Help", "show frmAbout", "unload",
+                             "unload"}));
+}
+
+TEST_F(FrmReport, DataEntryNeedsAnOpenTestAndFollowsItsKind) {
+    window.mnuDataEntry_Click();
+    EXPECT_EQ(Said(),
+              (Lines{"box [No Data File Open] Please create a new file or open an existing file first "
+                     "(Ok)"}));
+    OpenPivot();
+    window.mnuDataEntry_Click();
+    OpenSolid();
+    window.mnuDataEntry_Click();
+    EXPECT_EQ(Said(), (Lines{"show frmCenterPivotData", "show frmSolidSetData"}));
+}
+
+TEST_F(FrmReport, AnUnknownButtonDoesNothing) {
+    LoadPivot();
+    window.tbToolBar_ButtonClick("bold");
+    EXPECT_EQ(Said(), Lines{});
+}
+
+} // namespace
+
+} // namespace orvel

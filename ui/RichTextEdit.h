@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "report/RichTextBox.h"
+#include "ui/TextPositions.h"
+
+#include <QTextDocument>
+#include <QTextEdit>
+#include <memory>
+#include <optional>
+
+namespace orvel::ui {
+
+// A rich-text box on the screen. Lines wrap at its edge, but no line of a report does, however narrow it is.
+// Rich text goes through the clipboard as RTF.
+class RichTextEdit : public QTextEdit, public RichTextBox {
+public:
+    explicit RichTextEdit(QWidget* parent = nullptr);
+
+    [[nodiscard]] std::string Text() const override;
+    void SetText(std::string_view text) override;
+
+    void Select(std::size_t start, std::size_t length) override;
+    [[nodiscard]] std::size_t SelectionStart() const override;
+    [[nodiscard]] std::size_t SelectionLength() const override;
+
+    [[nodiscard]] bool IsSelectionBold() const override;
+    void SetSelectionBold(bool isBold) override;
+    [[nodiscard]] bool IsSelectionItalic() const override;
+    void SetSelectionItalic(bool isItalic) override;
+    void SetSelectionColor(Color color) override;
+    void SetSelectionFontName(const std::string& name) override;
+    void SetSelectionFontSize(int points) override;
+    void SetFontName(const std::string& name) override;
+
+    [[nodiscard]] bool IsReadOnly() const override { return isReadOnly(); }
+    void SetReadOnly(bool isReadOnly) override;
+
+    // Both show a waiting cursor.
+    void Load(const std::filesystem::path& file) override;
+    void Save(const std::filesystem::path& file) const override;
+
+    std::size_t DrawRange(const FormatRange& range) override;
+    void FreeDrawing() override { drawing.reset(); }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
+    [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    // The text, and where it stands in the document.
+    struct Content {
+        std::string text;
+        TextPositions positions;
+    };
+
+    [[nodiscard]] const Content& Current() const;
+    [[nodiscard]] Content ReadDocument() const;
+    // The whole text, as a selection.
+    [[nodiscard]] QTextCursor Everything() const;
+    [[nodiscard]] bool HasAllOfSelection(bool CharacterFormat::*property) const;
+    void ChangeSelection(const QTextCharFormat& change);
+    void UseFormat(const QTextCharFormat& format);
+    void WrapLines();
+
+    // The text as it was given, for as long as nobody edits it; afterwards that of the document.
+    mutable std::optional<Content> content = Content{};
+    // What the caret puts in.
+    QTextCharFormat caretFormat;
+    // Whether it is the program that changes the document, or moves the caret.
+    bool isOwnChange = false;
+    // The document as it is being printed.
+    std::unique_ptr<QTextDocument> drawing;
+};
+
+} // namespace orvel::ui

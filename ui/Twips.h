@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cmath>
+
+// Lengths of the logic's windows: 15 twips to a logical pixel.
+namespace orvel::ui {
+
+inline constexpr float kTwipsPerPixel = 15;
+
+[[nodiscard]] inline float ToTwips(int pixels) {
+    return static_cast<float>(pixels) * kTwipsPerPixel;
+}
+
+[[nodiscard]] inline int ToPixels(float twips) {
+    return static_cast<int>(std::lround(twips / kTwipsPerPixel));
+}
+
+} // namespace orvel::ui
