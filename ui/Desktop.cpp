@@ -8,6 +8,7 @@
 #include "solidset/SolidSetSummary.h"
 #include "ui/AboutDialog.h"
 #include "ui/CenterPivotDataDialog.h"
+#include "ui/InFront.h"
 #include "ui/SoilIntakeDialog.h"
 #include "ui/SolidSetDataDialog.h"
 #include "ui/UncaughtError.h"
@@ -19,11 +20,6 @@
 namespace orvel::ui {
 
 namespace {
-
-void SayMissing(const std::string& what) {
-    CurrentPlatform().messageBox->Show(
-        {what + " is not part of this version yet.", kProgramTitle, Buttons::Ok, Icon::Information});
-}
 
 // Returns when the user has closed the dialog. A dialog often closes together with the box that it asked in,
 // and some window managers find nobody then to give the focus to: its owner takes it.
@@ -39,11 +35,13 @@ void ShowModal(QDialog&& dialog) {
 Desktop::Desktop() {
     // The program ends when the main window closes, whichever window closes last.
     QApplication::setQuitOnLastWindowClosed(false);
-    UsePlatform(
-        {&messageBox, &beeper, &clock, &fileDialogs, &folderBrowser, &keySender, &settingsStore, &eventPump});
+    UsePlatform({&messageBox, &beeper, &clock, &fileDialogs, &folderBrowser, &keySender, &settingsStore,
+                 &eventPump, &printDialog, &printer});
 }
 
 Desktop::~Desktop() {
+    delete viewer;
+    delete report;
     UsePlatform({});
 }
 
@@ -72,9 +70,7 @@ void Desktop::ShowMain() {
         mainWindow = std::make_unique<MainWindow>(*this);
         mainWindow->Load();
     }
-    mainWindow->show();
-    mainWindow->raise();
-    mainWindow->activateWindow();
+    BringToFront(*mainWindow);
 }
 
 void Desktop::ShowCenterPivotData() {
@@ -98,11 +94,22 @@ void Desktop::ShowAbout() {
 }
 
 void Desktop::ShowReport() {
-    SayMissing("The report window");
+    if (report != nullptr && report->isVisible()) {
+        report->ShowAgain();
+        return;
+    }
+    report = new ReportWindow(*this);
+    report->Load();
 }
 
-void Desktop::ShowViewer(std::string_view /*what*/) {
-    SayMissing("The viewer");
+void Desktop::ShowViewer(std::string_view what) {
+    // A modal window lets only those be used that belong to it.
+    QWidget* owner = QApplication::activeModalWidget();
+    if (viewer == nullptr || !viewer->isVisible() || viewer->parentWidget() != owner) {
+        delete viewer;
+        viewer = new ViewerWindow(owner);
+    }
+    viewer->ShowTopic(what);
 }
 
 std::string Desktop::BuildCenterPivotSummary() {

@@ -6,8 +6,12 @@
 #include "ui/FileDialogs.h"
 #include "ui/MainWindow.h"
 #include "ui/QtPlatform.h"
+#include "ui/QtPrinter.h"
+#include "ui/ReportWindow.h"
 #include "ui/SplashWindow.h"
+#include "ui/ViewerWindow.h"
 
+#include <QPointer>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -51,9 +55,14 @@ private:
     QtKeySender keySender;
     QtSettingsStore settingsStore;
     QtEventPump eventPump;
+    QtPrinter printer;
+    QtPrintDialog printDialog{printer};
 
     std::unique_ptr<SplashWindow> splash;
     std::unique_ptr<MainWindow> mainWindow;
+    // Closed ones delete themselves.
+    QPointer<ReportWindow> report;
+    QPointer<ViewerWindow> viewer;
 };
 
 } // namespace orvel::ui

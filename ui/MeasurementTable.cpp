@@ -4,6 +4,7 @@
 
 #include "ui/Keys.h"
 #include "ui/TextEdge.h"
+#include "ui/Twips.h"
 #include "ui/UncaughtError.h"
 
 #include <QHeaderView>
@@ -14,11 +15,6 @@
 namespace orvel::ui {
 
 namespace {
-
-int FromTwips(int twips) {
-    constexpr double kTwipsPerPixel = 15;
-    return qRound(twips / kTwipsPerPixel);
-}
 
 // Leaves the headers no margin, so that they fit into the columns.
 class TightHeaders : public QProxyStyle {
@@ -91,8 +87,8 @@ MeasurementTable::MeasurementTable(MeasurementGrid& ofGrid, int rowHeight, QWidg
     horizontalHeader()->setMinimumHeight(rowHeight);
     int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
     for (int column = 0; const GridColumn& each : grid.Kind().columns) {
-        setColumnWidth(column++, FromTwips(each.width));
-        width += FromTwips(each.width);
+        setColumnWidth(column++, ToPixels(each.width));
+        width += ToPixels(each.width);
     }
     setFixedWidth(width);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,

@@ -3,6 +3,7 @@
 #include "ui/QtPlatform.h"
 
 #include "core/Version.h"
+#include "ui/InFront.h"
 #include "ui/TextEdge.h"
 
 #include <QApplication>
@@ -72,21 +73,6 @@ QString StoreKey(const std::string& section, const std::string& key) {
 }
 
 } // namespace
-
-QWidget* WindowInFront() {
-    if (QWidget* window = QApplication::activeModalWidget()) {
-        return window;
-    }
-    if (QWidget* window = QApplication::activeWindow()) {
-        return window;
-    }
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible()) {
-            return window;
-        }
-    }
-    return nullptr;
-}
 
 Reply QtMessageBox::Show(const Message& message) {
     QMessageBox box(IconOf(message.icon), ToQt(message.title), WithLineBreaks(ToQt(message.text)),

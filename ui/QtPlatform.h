@@ -60,7 +60,4 @@ private:
     bool isEnding = false;
 };
 
-// The window that a box or dialog belongs to; none before the first one is shown.
-[[nodiscard]] QWidget* WindowInFront();
-
 } // namespace orvel::ui

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/QtPrinter.h"
 
-#include "ui/QtPlatform.h"
+#include "ui/InFront.h"
 #include "ui/TextEdge.h"
 
 #include <QPrintDialog>

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/ReportWindow.h"
 
+#include "ui/InFront.h"
 #include "ui/Menus.h"
 #include "ui/TextEdge.h"
 #include "ui/Twips.h"
@@ -71,10 +72,7 @@ void ReportWindow::Load() {
 
 void ReportWindow::ShowAgain() {
     Run([this] { logic.ShowAgain(); });
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    show();
-    raise();
-    activateWindow();
+    BringToFront(*this);
 }
 
 void ReportWindow::closeEvent(QCloseEvent* event) {

@@ -74,7 +74,8 @@ CharacterFormat FromQt(const QTextCharFormat& format, const QTextDocument& docum
                            .halfPoints = HalfPointsOf(format, fallback),
                            .isBold = format.fontWeight() >= QFont::Bold,
                            .isItalic = format.fontItalic(),
-                           .isUnderlined = format.fontUnderline()};
+                           .isUnderlined = format.fontUnderline(),
+                           .color = {}};
     if (format.hasProperty(QTextFormat::ForegroundBrush)) {
         const QColor color = format.foreground().color();
         result.color = Color{static_cast<std::uint8_t>(color.red()), static_cast<std::uint8_t>(color.green()),

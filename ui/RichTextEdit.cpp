@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextLayout>
@@ -118,6 +119,10 @@ void RichTextEdit::Select(std::size_t start, std::size_t length) {
     cursor.setPosition(current.positions.ToDocument(start));
     cursor.setPosition(current.positions.ToDocument(start + length), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
+    if (start == 0) {
+        // With the margin above it.
+        verticalScrollBar()->setValue(0);
+    }
     if (length == 0) {
         UseFormat(current.text.empty() ? caretFormat : cursor.charFormat());
     }

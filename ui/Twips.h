@@ -7,13 +7,13 @@
 // Lengths of the logic's windows: 15 twips to a logical pixel.
 namespace orvel::ui {
 
-inline constexpr float kTwipsPerPixel = 15;
+inline constexpr int kTwipsPerPixel = 15;
 
 [[nodiscard]] inline float ToTwips(int pixels) {
-    return static_cast<float>(pixels) * kTwipsPerPixel;
+    return static_cast<float>(pixels * kTwipsPerPixel);
 }
 
-[[nodiscard]] inline int ToPixels(float twips) {
+[[nodiscard]] inline int ToPixels(double twips) {
     return static_cast<int>(std::lround(twips / kTwipsPerPixel));
 }
 

@@ -58,9 +58,9 @@ class Desktop:
 
     # --- What is there -----------------------------------------------------------------------------------
 
-    def find(self, name, role=None):
-        """The control of that accessible name that is shown."""
-        return self._wait(lambda: self._search(name, role), "%s %s" % (role or "control", name))
+    def find(self, name, role=None, window=None):
+        """The control of that accessible name that is shown, in the window of that title where one is given."""
+        return self._wait(lambda: self._search(name, role, window), "%s %s" % (role or "control", name))
 
     def is_there(self, name, role=None):
         return self._search(name, role) is not None
@@ -78,13 +78,13 @@ class Desktop:
 
     # --- What is done ------------------------------------------------------------------------------------
 
-    def press(self, name, role="push button"):
-        self._click(self.find(name, role))
+    def press(self, name, role="push button", window=None):
+        self._click(self.find(name, role, window))
 
-    def choose(self, menu, item):
+    def choose(self, menu, item, window=None):
         """Opens a menu of the menu bar and clicks on an item."""
-        self._click(self.find(menu, "menu item"))
-        self._click(self.find(item, "menu item"))
+        self._click(self.find(menu, "menu item", window))
+        self._click(self.find(item, "menu item", window))
         self._wait(lambda: not self.is_there(item, "menu item"), "the menu to close")
 
     def select(self, name, number):
@@ -181,9 +181,10 @@ class Desktop:
             time.sleep(0.05)
         raise AssertionError("waited in vain for " + what)
 
-    def _search(self, name, role):
+    def _search(self, name, role, window=None):
         shown = self.bus.StateType.SHOWING
-        for control in self._controls(self._application()):
+        place = self._application() if window is None else self._search(window, "frame")
+        for control in self._controls(place):
             try:
                 if (control.get_name() == name and (role is None or control.get_role_name() == role)
                         and control.get_state_set().contains(shown)):

@@ -25,11 +25,17 @@ using testing::TemporaryFolder;
 constexpr const char* kFileSaveError =
     "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
 
-// Notes what is done to the box, but for the colouring of single marks.
+// Notes what is done to the box, but for its sections and the colouring of single marks.
 class ReportBox : public testing::PrintableBox {
 public:
     explicit ReportBox(testing::Surroundings& ofTest) : PrintableBox(ofTest), surroundings(ofTest) {}
 
+    void SetText(std::string_view newText) override {
+        if (newText.empty()) {
+            surroundings.Note("emptied");
+        }
+        PrintableBox::SetText(newText);
+    }
     void SetReadOnly(bool isReadOnly) override {
         surroundings.Note(isReadOnly ? "read-only" : "not read-only");
         PrintableBox::SetReadOnly(isReadOnly);
@@ -251,6 +257,46 @@ TEST_F(FrmReport, RefreshBuildsAnewAndLocks) {
     EXPECT_TRUE(ShowsReport());
 }
 
+TEST_F(FrmReport, TheRefreshButtonBuildsTheReportOfTheTestInMemory) {
+    LoadPivot();
+    OpenSolid();
+    window.tbToolBar_ButtonClick("Refresh");
+    EXPECT_EQ(Said().back(), "status Current File: solid-set-triangle.ssd");
+    EXPECT_NE(reportBox.Text().find("Solid Set Water Application Uniformity Test"), std::string::npos);
+}
+
+TEST_F(FrmReport, ARefreshedReportIsNeitherBoldNorItalic) {
+    LoadPivot();
+    const RichDocument fresh = reportBox.Document();
+    window.tbToolBar_ButtonClick("Bold");
+    window.tbToolBar_ButtonClick("Italic");
+    EXPECT_NE(reportBox.Document(), fresh);
+    window.mnuRefreshReport_Click();
+    Said();
+    EXPECT_EQ(reportBox.Document(), fresh);
+}
+
+TEST_F(FrmReport, TheWholeReportIsInOneFontThatTypingGoesOnWith) {
+    LoadPivot();
+    CharacterFormat format;
+    for (const Paragraph& paragraph : reportBox.Document().paragraphs) {
+        for (const TextRun& run : paragraph.runs) {
+            format = run.format;
+            format.color.reset();
+            ASSERT_EQ(format, (CharacterFormat{.font = "Courier New", .halfPoints = 18, .color = {}}));
+        }
+    }
+    EXPECT_EQ(reportBox.SelectionStart(), 0U);
+    EXPECT_EQ(reportBox.SelectionLength(), 0U);
+    Program().testKind = "none";
+    reportBox.SetText("");
+    reportBox.SetFontName("Other");
+    window.Form_Load();
+    Said();
+    reportBox.SetText("typed");
+    EXPECT_EQ(reportBox.Document().paragraphs.at(0).runs.at(0).format.font, "Courier New");
+}
+
 TEST_F(FrmReport, RefreshOfAnotherKindChangesTheStatusOnly) {
     LoadPivot();
     Program().testKind = "none";
@@ -288,7 +334,7 @@ TEST_F(FrmReport, ARunTimeErrorOfACenterPivotBuildIsToldAndTheTextIsEmpty) {
     LoadPivot();
     Program().centerPivotTest.PercentTimer = "forty";
     window.mnuRefreshReport_Click();
-    EXPECT_EQ(Said(), (Lines{"selection size 9",
+    EXPECT_EQ(Said(), (Lines{"selection size 9", "emptied",
                              "box [Error] Sorry, an error occurred generating report...|Error Number: 13|"
                              "Error Description: Type mismatch|Error Source: ORVEL| (Ok, Critical)",
                              "button 5 unpressed", "button 6 unpressed", "read-only", "button 7 pressed",
@@ -297,6 +343,19 @@ TEST_F(FrmReport, ARunTimeErrorOfACenterPivotBuildIsToldAndTheTextIsEmpty) {
     EXPECT_EQ(Program().messageText, "Sorry, an error occurred generating report...\rError Number: 13\r"
                                      "Error Description: Type mismatch\rError Source: ORVEL\r");
     EXPECT_EQ(Program().messageReply, Reply::Ok);
+}
+
+TEST_F(FrmReport, ARunTimeErrorOfASolidSetBuildIsToldOnce) {
+    OpenSolid();
+    window.Form_Load();
+    Said();
+    Program().solidSetTest.NumberX = "";
+    window.mnuRefreshReport_Click();
+    EXPECT_EQ(Said(), (Lines{"emptied",
+                             "box [Error] Sorry, an error occurred generating report...|Error Number: 13|"
+                             "Error Description: Type mismatch|Error Source: ORVEL| (Ok, Critical)",
+                             "button 5 unpressed", "button 6 unpressed", "read-only", "button 7 pressed",
+                             "status Current File: solid-set-triangle.ssd"}));
 }
 
 TEST_F(FrmReport, OpenShowsARichTextFile) {
@@ -338,7 +397,7 @@ TEST_F(FrmReport, AFileThatCannotBeReadIsToldAndTheReportStays) {
 TEST_F(FrmReport, CloseEmptiesTheTextAndKeepsTheWindow) {
     LoadPivot();
     window.mnuFileClose_Click();
-    EXPECT_EQ(Said(), Lines{});
+    EXPECT_EQ(Said(), (Lines{"emptied"}));
     EXPECT_EQ(reportBox.Text(), "");
 }
 
@@ -449,7 +508,7 @@ TEST_F(FrmReport, AnEmptyTextIsToldBehindTheDialog) {
     window.mnuFileClose_Click();
     printDialog.chosenCopies = 2;
     window.mnuFilePrint_Click();
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006", "orientation 1",
+    EXPECT_EQ(Said(), (Lines{"emptied", "print dialog [Print Report] 0x140006", "orientation 1",
                              "box [Printing Error] There is no text to print. (Ok)"}));
     EXPECT_EQ(printDialog.chosenCopies, 2);
 }
@@ -490,8 +549,26 @@ TEST_F(FrmReport, ItalicIsTheOppositeOfTheWholeText) {
     reportBox.Select(0, reportBox.Text().size());
     EXPECT_TRUE(reportBox.IsSelectionItalic());
     EXPECT_FALSE(reportBox.IsSelectionBold());
+    EXPECT_EQ(reportBox.SelectionLength(), reportBox.Text().size());
     window.tbToolBar_ButtonClick("Italic");
     EXPECT_EQ(Said(), (Lines{"button 6 unpressed"}));
+    EXPECT_EQ(reportBox.SelectionLength(), 0U);
+    reportBox.Select(10, 1);
+    EXPECT_FALSE(reportBox.IsSelectionItalic());
+    reportBox.SetSelectionItalic(true);
+    window.tbToolBar_ButtonClick("Italic");
+    EXPECT_EQ(Said(), (Lines{"button 6 pressed"})) << "italic in part is not italic";
+}
+
+TEST_F(FrmReport, BoldAndItalicDoNotTouchEachOther) {
+    LoadPivot();
+    window.tbToolBar_ButtonClick("Bold");
+    window.tbToolBar_ButtonClick("Italic");
+    window.tbToolBar_ButtonClick("Bold");
+    EXPECT_EQ(Said(), (Lines{"button 5 pressed", "button 6 pressed", "button 5 unpressed"}));
+    reportBox.Select(0, reportBox.Text().size());
+    EXPECT_FALSE(reportBox.IsSelectionBold());
+    EXPECT_TRUE(reportBox.IsSelectionItalic());
 }
 
 TEST_F(FrmReport, LockIsTheOppositeOfWhatItIs) {

@@ -127,6 +127,38 @@ TEST_F(FrmShowRTF, ACancelledPrintEndsWithoutAWord) {
     EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"}));
 }
 
+TEST_F(FrmShowRTF, PrintingLeavesTheSettingsOfThePrinterAndTheDialogAlone) {
+    box.SetText("text");
+    printDialog.chosenOrientation = Orientation::Landscape;
+    printDialog.chosenCopies = 2;
+    window.cmdBtnPrint_Click();
+    Said();
+    EXPECT_FALSE(Program().savedPrinterSettings);
+    EXPECT_EQ(printer.orientation, Orientation::Portrait);
+    EXPECT_EQ(printDialog.chosenCopies, 2);
+}
+
+TEST_F(FrmShowRTF, APrinterThatFailsIsToldAndTheTextStays) {
+    box.SetText("text");
+    printer.blankError = ErrorNumber::DeviceIoError;
+    window.cmdBtnPrint_Click();
+    EXPECT_EQ(Said(),
+              (Lines{"print dialog [Print Report] 0x140006", "printer's copies 1", "blank", "job dropped",
+                     "box [Printing Error] The text could not be printed: Device I/O error. (Ok, "
+                     "Critical)"}));
+    EXPECT_EQ(box.Text(), "text");
+}
+
+TEST_F(FrmShowRTF, ShowingATopicReplacesTheOther) {
+    Show("SSData");
+    Show("Help");
+    EXPECT_EQ(Said(), (Lines{"caption Solid Set Data - ", "show", "caption No Help File Available", "show"}));
+    EXPECT_TRUE(box.Text().starts_with("No Help File Available\r\r"));
+    Show("CPData");
+    EXPECT_EQ(Said(), (Lines{"caption Center Pivot Data - ", "show"}));
+    EXPECT_EQ(box.Text(), CenterPivotListingText());
+}
+
 TEST_F(FrmShowRTF, SavesAsRichText) {
     box.SetText("text");
     surroundings.paths = {folder / "saved.rtf", {}};

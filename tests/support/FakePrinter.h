@@ -7,7 +7,7 @@
 #include "core/RunTimeError.h"
 #include "tests/support/WindowTest.h"
 
-#include <iomanip>
+#include <deque>
 #include <optional>
 #include <sstream>
 #include <string>
@@ -46,8 +46,9 @@ private:
     Surroundings& surroundings;
 };
 
-// A printer of 600 dots to the inch, Letter paper in it, with a printable area of its own. A page's context
-// knows its number.
+// A printer of 600 by 300 dots to the inch, Letter paper in it, with a printable area of its own. Each page
+// has a context of its own, which knows its number. It is strict: a page begins with its blank, and lengths
+// are asked for in twips only.
 class FakePrinter : public Printer {
 public:
     struct Page : DeviceContext {
@@ -58,43 +59,69 @@ public:
 
     int offsetX = 0; // pixels
     int offsetY = 0;
+    float width = 12240; // twips
+    float height = 15840;
     int copies = 7;
     Orientation orientation = Orientation::Portrait;
-    std::optional<ErrorNumber> blankError; // what printing a blank raises
+    std::optional<ErrorNumber> blankError;   // what printing a blank raises
+    std::optional<ErrorNumber> newPageError; // and a new page
 
     void PrintBlank() override {
         surroundings.Note("blank");
         RaiseIf(blankError);
-        page.number = std::max(page.number, 1);
+        if (!hasPage) {
+            hasPage = true;
+            pages.emplace_back().number = ++pageNumber;
+        }
     }
-    void UseTwips() override { surroundings.Note("twips"); }
+    void UseTwips() override {
+        surroundings.Note("twips");
+        isInTwips = true;
+    }
     void NewPage() override {
         surroundings.Note("new page");
-        ++page.number;
+        hasPage = false;
+        RaiseIf(newPageError);
     }
     void EndDoc() override {
         surroundings.Note("end of document");
-        page.number = 0;
+        EndJob();
     }
     void KillDoc() override {
         surroundings.Note("job dropped");
-        page.number = 0;
+        EndJob();
     }
 
     [[nodiscard]] DeviceContext& Context() override {
-        EXPECT_GT(page.number, 0) << "no job has begun";
-        return page;
+        if (!hasPage) {
+            ADD_FAILURE() << "no page has begun";
+            return pages.emplace_back();
+        }
+        return pages.back();
     }
     [[nodiscard]] int DeviceCaps(DeviceCap cap) const override {
-        return cap == DeviceCap::PhysicalOffsetX ? offsetX : offsetY;
+        EXPECT_TRUE(hasPage) << "no job has begun";
+        switch (static_cast<int>(cap)) {
+        case 112:
+            return offsetX;
+        case 113:
+            return offsetY;
+        default:
+            ADD_FAILURE() << "unknown capability " << static_cast<int>(cap);
+            return 0;
+        }
     }
-    [[nodiscard]] float PixelsToTwipsX(int pixels) const override { return ToTwips(pixels); }
-    [[nodiscard]] float PixelsToTwipsY(int pixels) const override { return ToTwips(pixels); }
+    [[nodiscard]] float PixelsToTwipsX(int pixels) const override {
+        return static_cast<float>(pixels) * 2.4F;
+    }
+    [[nodiscard]] float PixelsToTwipsY(int pixels) const override {
+        return static_cast<float>(pixels) * 4.8F;
+    }
 
-    [[nodiscard]] float Width() const override { return 12240; }
-    [[nodiscard]] float Height() const override { return 15840; }
-    [[nodiscard]] float ScaleWidth() const override { return Width() - 2 * ToTwips(offsetX); }
-    [[nodiscard]] float ScaleHeight() const override { return Height() - 2 * ToTwips(offsetY); }
+    [[nodiscard]] float Width() const override { return InTwips(width); }
+    [[nodiscard]] float Height() const override { return InTwips(height); }
+    [[nodiscard]] float ScaleWidth() const override { return InTwips(width - 2 * PixelsToTwipsX(offsetX)); }
+    [[nodiscard]] float ScaleHeight() const override { return InTwips(height - 2 * PixelsToTwipsY(offsetY)); }
 
     [[nodiscard]] int Copies() const override { return copies; }
     void SetCopies(int newCopies) override {
@@ -108,9 +135,20 @@ public:
     }
 
 private:
-    static float ToTwips(int pixels) { return static_cast<float>(pixels) * 2.4F; }
+    [[nodiscard]] float InTwips(float length) const {
+        EXPECT_TRUE(isInTwips) << "the printer's lengths are in pixels still";
+        return length;
+    }
+    void EndJob() {
+        hasPage = false;
+        pageNumber = 0;
+        isInTwips = false;
+    }
 
-    Page page;
+    std::deque<Page> pages; // of all jobs: their addresses stay
+    bool hasPage = false;
+    int pageNumber = 0;
+    bool isInTwips = false;
     Surroundings& surroundings;
 };
 
