@@ -22,22 +22,22 @@ namespace {
 
 // A button of tbToolBar; its key is what the logic knows it by.
 struct ToolButtonItem {
-    const char* key; // none: a gap
-    const char* tip;
-    bool isToggle = false;
+    const char* key = nullptr; // none: a gap
+    const char* tip = nullptr;
+    const char* shortcut = nullptr; // of those that show a state; the others have theirs in the menus
 };
 
 constexpr std::array<ToolButtonItem, 12> kToolButtons = {{
     {"Back", "Close the report and go back"},
-    {nullptr, nullptr},
+    {},
     {"Open", "Open a rich-text file"},
     {"Save", "Save the report as rich text"},
     {"Print", "Print the report"},
-    {nullptr, nullptr},
-    {"Bold", "Make the whole text bold", true},
-    {"Italic", "Make the whole text italic", true},
-    {"Lock", "Protect the text from changes", true},
-    {nullptr, nullptr},
+    {},
+    {"Bold", "Make the whole text bold, or not (Ctrl+B)", "Ctrl+B"},
+    {"Italic", "Make the whole text italic, or not (Ctrl+I)", "Ctrl+I"},
+    {"Lock", "Protect the text from changes, or not (Ctrl+L)", "Ctrl+L"},
+    {},
     {"Help", "Show the instructions"},
     {"Refresh", "Build the report anew"},
 }};
@@ -71,7 +71,7 @@ void ReportWindow::Load() {
 }
 
 void ReportWindow::ShowAgain() {
-    Run([this] { logic.ShowAgain(); });
+    logic.ShowAgain();
     BringToFront(*this);
 }
 
@@ -98,7 +98,7 @@ void ReportWindow::AddMenus() {
             {"mnuFileOpen", "&Open...", QKeySequence::Open, Event(&frmReport::mnuFileOpen_Click)},
             {"mnuFileClose", "&Close", {}, Event(&frmReport::mnuFileClose_Click)},
             {},
-            {"mnuRefreshReport", "&Refresh Report Computation", QKeySequence::Refresh,
+            {"mnuRefreshReport", "&Refresh Report Computation", QKeySequence("F5"),
              Event(&frmReport::mnuRefreshReport_Click)},
             {},
             {"mnuFileSaveAs", "Save &As...", QKeySequence("Ctrl+Shift+S"),
@@ -146,13 +146,17 @@ void ReportWindow::AddToolBar() {
             bar->addSeparator();
             continue;
         }
-        const std::string key = item.key;
-        QAction* action =
-            bar->addAction(QIcon(QString(":/tools/%1.svg").arg(QString(item.key).toLower())), item.key, this,
-                           [this, key] { Run([this, key] { logic.tbToolBar_ButtonClick(key); }); });
+        QAction* action = bar->addAction(
+            QIcon(QString(":/tools/%1.svg").arg(QString(item.key).toLower())), item.key, this,
+            [this, key = item.key] { Run([this, key] { logic.tbToolBar_ButtonClick(key); }); });
         action->setObjectName(item.key);
         action->setToolTip(item.tip);
-        action->setCheckable(item.isToggle);
+        if (item.shortcut != nullptr) {
+            action->setCheckable(true);
+            action->setShortcut(QKeySequence(item.shortcut));
+        }
+        // Within reach of the keyboard, but a click leaves the focus where it is.
+        bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
     }
 }
 
@@ -178,17 +182,17 @@ void ReportWindow::SetReportSize(float width, float height) {
 }
 
 void ReportWindow::ShowPressed(frmReport::ToolButton button, bool isPressed) {
-    const auto name = [button] {
-        switch (button) {
-        case frmReport::ToolButton::Bold:
-            return "Bold";
-        case frmReport::ToolButton::Italic:
-            return "Italic";
-        default:
-            return "Lock";
-        }
-    };
-    findChild<QAction*>(name())->setChecked(isPressed);
+    switch (button) {
+    case frmReport::ToolButton::Bold:
+        findChild<QAction*>("Bold")->setChecked(isPressed);
+        break;
+    case frmReport::ToolButton::Italic:
+        findChild<QAction*>("Italic")->setChecked(isPressed);
+        break;
+    case frmReport::ToolButton::Lock:
+        findChild<QAction*>("Lock")->setChecked(isPressed);
+        break;
+    }
 }
 
 void ReportWindow::SetStatusText(const std::string& text) {

@@ -22,6 +22,7 @@
 #include <QTextLayout>
 #include <QWheelEvent>
 #include <algorithm>
+#include <cmath>
 
 namespace orvel::ui {
 
@@ -277,7 +278,9 @@ void RichTextEdit::ChangeSelection(const QTextCharFormat& change) {
 void RichTextEdit::UseFormat(const QTextCharFormat& format) {
     const QScopedValueRollback own(isOwnChange, true);
     caretFormat = format;
-    setCurrentCharFormat(format);
+    if (!textCursor().hasSelection()) {
+        setCurrentCharFormat(format);
+    }
 }
 
 void RichTextEdit::resizeEvent(QResizeEvent* event) {
@@ -286,8 +289,10 @@ void RichTextEdit::resizeEvent(QResizeEvent* event) {
 }
 
 void RichTextEdit::WrapLines() {
-    const int report = fontMetrics().horizontalAdvance(QString(kReportColumns, ' ')) +
-                       static_cast<int>(2 * document()->documentMargin());
+    // Some letters are drawn a little wider than the font's metrics say: room for one more makes up for it.
+    const double line =
+        QFontMetricsF(document()->defaultFont()).horizontalAdvance(QString(kReportColumns + 1, ' '));
+    const int report = static_cast<int>(std::ceil(line + 2 * document()->documentMargin()));
     if (viewport()->width() < report) {
         setLineWrapMode(FixedPixelWidth);
         setLineWrapColumnOrWidth(report);

@@ -37,7 +37,7 @@ ViewerWindow::ViewerWindow(QWidget* owner)
 }
 
 void ViewerWindow::ShowTopic(std::string_view what) {
-    Run([this, what] { logic.ShowTopic(what); });
+    logic.ShowTopic(what);
 }
 
 QWidget* ViewerWindow::NewButton(const char* name, const char* caption, Handler handler) {

@@ -61,6 +61,12 @@ TEST_F(PrintRTB, LengthsAreRoundedToWholeTwips) {
     PrintRichText(box);
     EXPECT_EQ(box.lastRange.drawing, (TwipsRect{1438, 1430, 10466 - 2, 15398 - 10}));
     EXPECT_EQ(box.lastRange.page, (TwipsRect{0, 0, 11901, 16819}));
+
+    printer.offsetX = 4; // 9.6
+    printer.offsetY = 3; // 14.4
+    PrintRichText(box);
+    EXPECT_EQ(box.lastRange.drawing, (TwipsRect{1430, 1426, 10466 - 10, 15398 - 14}));
+    EXPECT_EQ(box.lastRange.page, (TwipsRect{0, 0, 11886, 16809}));
     Said();
 }
 

@@ -6,6 +6,8 @@
 #include "tests/support/FakePrinter.h"
 
 #include <deque>
+#include <filesystem>
+#include <optional>
 #include <sstream>
 #include <string>
 
@@ -16,11 +18,16 @@ class PrintableBox : public MemoryRichTextBox {
 public:
     explicit PrintableBox(Surroundings& ofTest) : surroundings(ofTest) {}
 
-    std::deque<std::size_t> pageEnds; // then the text ends
+    std::deque<std::size_t> pageEnds;     // then the text ends
+    std::optional<ErrorNumber> saveError; // what saving raises
 
     // What DrawRange was last given.
     FormatRange lastRange;
 
+    void Save(const std::filesystem::path& file) const override {
+        RaiseIf(saveError);
+        MemoryRichTextBox::Save(file);
+    }
     std::size_t DrawRange(const FormatRange& range) override {
         lastRange = range;
         std::ostringstream line;

@@ -194,6 +194,16 @@ TEST_F(FrmReport, AnotherKindOpensAnEmptyReport) {
     }
 }
 
+TEST_F(FrmReport, NoFileIsTheCurrentOneOfAnotherKind) {
+    Program().testKind = "none";
+    Program().solidSetFile = "/a/b.ssd";
+    window.mnuRefreshReport_Click();
+    Program().solidSetFile.clear();
+    Program().centerPivotFile = "/a/b.cpd";
+    window.mnuRefreshReport_Click();
+    EXPECT_EQ(Said(), (Lines{"status Current File: ", "status Current File: "}));
+}
+
 TEST_F(FrmReport, KeptNumbersAreSinglesWithAPoint) {
     UseNumberLocale(testing::GermanNumbers());
     left = 1500.5F;
@@ -383,14 +393,14 @@ TEST_F(FrmReport, AnOpenThatIsCancelledOrOfAVanishedFileChangesNothing) {
     }
 }
 
-TEST_F(FrmReport, AFileThatCannotBeReadIsToldAndTheReportStays) {
+TEST_F(FrmReport, AFileThatCannotBeReadIsToldAndNothingChanges) {
     LoadPivot();
     // Reading the memory of a process from its beginning is an error, whoever reads.
     surroundings.paths = {"/proc/self/mem"};
     window.mnuFileOpen_Click();
-    EXPECT_EQ(
-        Said().at(1),
-        "box [Open File] /proc/self/mem can't be opened: cannot read: Input/output error. (Ok, Critical)");
+    EXPECT_EQ(Said(), (Lines{"open [Open File] RTF Files (*.rtf)|*.rtf; ; 0x0; ",
+                             "box [Open File] /proc/self/mem can't be opened: cannot read: Input/output "
+                             "error. (Ok, Critical)"}));
     EXPECT_TRUE(ShowsReport());
 }
 
@@ -488,6 +498,9 @@ TEST_F(FrmReport, PrintingSavesThePrintersSettingsBeforeItsDialog) {
     EXPECT_EQ(Program().savedPrinterSettings->copies, 7);
     EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"})) << "cancelled without a word";
     EXPECT_EQ(printer.orientation, Orientation::Landscape) << "nobody sets them back";
+
+    window.tbToolBar_ButtonClick("Print");
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"})) << "nor from the tool bar";
 }
 
 TEST_F(FrmReport, PrintingRemembersTheOrientationOfTheDialog) {

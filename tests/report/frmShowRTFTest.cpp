@@ -170,11 +170,18 @@ TEST_F(FrmShowRTF, SavesAsRichText) {
     EXPECT_TRUE(Contents(folder / "saved.rtf").starts_with("{\\rtf1"));
 }
 
-TEST_F(FrmShowRTF, ASaveThatFailsIsTold) {
-    surroundings.paths = {folder / "none/saved.rtf"};
+TEST_F(FrmShowRTF, ASaveThatFailsIsToldWhateverTheError) {
+    box.SetText("text");
+    surroundings.paths = {folder / "none/saved.rtf", folder / "saved.rtf"};
+    const Lines failure = {
+        "save [Save Information As - Enter File Name] All Files (*.rtf)|*.rtf; rtf; 0x2806; ",
+        "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)"};
     window.cmdBtnSave_Click();
-    EXPECT_EQ(Said().at(1), "box [File Save Error] Error in saving file. Please check drives and disk space. "
-                            "(Ok, Critical)");
+    EXPECT_EQ(Said(), failure);
+    box.saveError = ErrorNumber::TypeMismatch;
+    window.cmdBtnSave_Click();
+    EXPECT_EQ(Said(), failure);
+    EXPECT_EQ(box.Text(), "text");
 }
 
 TEST_F(FrmShowRTF, CloseUnloads) {

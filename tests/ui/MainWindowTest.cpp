@@ -21,16 +21,6 @@ namespace {
 
 using testing::Lines;
 
-// The captions of a menu, without the underlined letter, and behind each its shortcut; "-" is a separator.
-Lines Items(const QMenu& menu) {
-    Lines items;
-    for (const QAction* action : menu.actions()) {
-        const QString shortcut = action->shortcut().isEmpty() ? "" : " | " + action->shortcut().toString();
-        items.push_back(action->isSeparator() ? "-" : (action->text().remove('&') + shortcut).toStdString());
-    }
-    return items;
-}
-
 class MainWindow : public testing::WidgetTest {
 protected:
     MainWindow() {

@@ -65,6 +65,15 @@ void WidgetTest::ShowActive(QWidget& window) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
+Lines WidgetTest::Items(const QMenu& menu) {
+    Lines items;
+    for (const QAction* action : menu.actions()) {
+        const QString shortcut = action->shortcut().isEmpty() ? "" : " | " + action->shortcut().toString();
+        items.push_back(action->isSeparator() ? "-" : (action->text().remove('&') + shortcut).toStdString());
+    }
+    return items;
+}
+
 std::vector<std::string> WidgetTest::TabOrder(QWidget& window) {
     std::vector<std::string> names;
     std::set<const QWidget*> seen;

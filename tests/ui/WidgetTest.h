@@ -4,6 +4,7 @@
 
 #include "tests/support/WindowTest.h"
 
+#include <QMenu>
 #include <QWidget>
 #include <functional>
 #include <gtest/gtest.h>
@@ -26,6 +27,10 @@ protected:
         }
         return *control;
     }
+
+    // The captions of a menu, without the underlined letter, and behind each its shortcut; "-" is a
+    // separator.
+    static Lines Items(const QMenu& menu);
 
     // The object names of the controls that Tab goes through, from the first one to the last.
     static std::vector<std::string> TabOrder(QWidget& window);

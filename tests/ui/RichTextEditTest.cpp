@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "ui/RichTextEdit.h"
+
+#include "report/ReportFont.h"
+#include "report/RtfWriter.h"
+#include "tests/report/RichTextBoxContract.h"
+#include "tests/ui/WidgetTest.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QWheelEvent>
+
+namespace orvel::testing {
+
+namespace {
+
+INSTANTIATE_TYPED_TEST_SUITE_P(OnScreen, RichTextBoxContract, ui::RichTextEdit);
+
+class RichTextEdit : public WidgetTest {
+protected:
+    RichTextEdit() {
+        UseReportFont(box);
+        box.resize(900, 300);
+    }
+
+    [[nodiscard]] RichDocument Document() const {
+        box.Save(folder / "document.rtf");
+        return ReadRtf(ReadFile(folder / "document.rtf"));
+    }
+
+    static void PutOnClipboard(const char* format, const QByteArray& data) {
+        auto* content = new QMimeData;
+        content->setData(format, data);
+        QApplication::clipboard()->setMimeData(content);
+    }
+
+    TemporaryFolder folder;
+    ui::RichTextEdit box;
+};
+
+TEST_F(RichTextEdit, EditsAreInTheText) {
+    box.SetText("one\r\ntwo\rthree\n");
+    ShowActive(box);
+    QTest::keyClicks(&box, "X");
+    EXPECT_EQ(box.Text(), "Xone\r\ntwo\r\nthree\r\n") << "once edited, every line end is one of the document";
+    QTest::keyClick(&box, Qt::Key_End);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(box.Text(), "Xone\r\n\r\n\r\ntwo\r\nthree\r\n");
+    EXPECT_EQ(box.SelectionStart(), 8U);
+    QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_unknown, QString(QChar(0x20AC)) + QChar(0x0416), {});
+    EXPECT_EQ(box.Text(), "Xone\r\n\r\n\x80?\r\ntwo\r\nthree\r\n");
+}
+
+TEST_F(RichTextEdit, EditsTakeTheFormatAtTheCaret) {
+    box.SetText("plain");
+    ShowActive(box);
+    box.Select(5, 0);
+    box.SetSelectionBold(true);
+    QTest::keyClicks(&box, "bold");
+    box.Select(0, 5);
+    EXPECT_FALSE(box.IsSelectionBold());
+    box.Select(5, 4);
+    EXPECT_TRUE(box.IsSelectionBold());
+    EXPECT_EQ(Document().paragraphs.at(0).runs.at(1).text, U"bold");
+}
+
+TEST_F(RichTextEdit, ATextIsNotUndone) {
+    box.SetText("first");
+    box.SetText("second");
+    ShowActive(box);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "second");
+    QTest::keyClicks(&box, "x");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "second");
+}
+
+TEST_F(RichTextEdit, LockedItTakesNoKeyButIsCopiedFromByKeys) {
+    box.SetText("one\r\ntwo");
+    box.SetReadOnly(true);
+    ShowActive(box);
+    QTest::keyClicks(&box, "x");
+    QTest::keyClick(&box, Qt::Key_Delete);
+    PutOnClipboard("text/plain", "pasted");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "one\r\ntwo");
+    QTest::keyClick(&box, Qt::Key_End, Qt::ShiftModifier);
+    QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "one");
+    box.SetReadOnly(false);
+    QTest::keyClicks(&box, "x");
+    EXPECT_EQ(box.Text(), "x\r\ntwo") << "the selection was replaced";
+}
+
+TEST_F(RichTextEdit, RichTextGoesThroughTheClipboard) {
+    box.SetText("low 0.35\r\nhigh");
+    box.Select(4, 4);
+    box.SetSelectionColor({255, 0, 0});
+    ShowActive(box);
+    box.Select(2, 10);
+    QTest::keyClick(&box, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "w 0.35\nhi");
+    EXPECT_EQ(ReadRtf(QApplication::clipboard()->mimeData()->data("text/rtf").toStdString())
+                  .paragraphs.at(0)
+                  .runs.at(1)
+                  .format.color,
+              (Color{255, 0, 0}));
+    box.Select(0, 0);
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "w 0.35\r\nhilow 0.35\r\nhigh");
+    EXPECT_EQ(Document().paragraphs.at(0).runs.at(1).format.color, (Color{255, 0, 0}));
+    EXPECT_EQ(box.SelectionStart(), 10U);
+}
+
+TEST_F(RichTextEdit, RichTextIsPastedUnderEachOfItsNames) {
+    ShowActive(box);
+    for (const char* name : {"text/rtf", "application/rtf", "text/richtext"}) {
+        box.SetText("");
+        PutOnClipboard(name, R"({\rtf1 a{\b b}})");
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box.Text(), "ab") << name;
+        EXPECT_EQ(Document().paragraphs.at(0).runs.size(), 2U) << name;
+    }
+}
+
+TEST_F(RichTextEdit, MarkupIsPastedAsPlainTextOnly) {
+    ShowActive(box);
+    auto* content = new QMimeData;
+    content->setHtml("<b>bold</b><img src=\"file:///etc/hostname\">");
+    content->setText("plain");
+    QApplication::clipboard()->setMimeData(content);
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "plain");
+    PutOnClipboard("text/html", "<b>bold</b>");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "plain");
+}
+
+TEST_F(RichTextEdit, KeepsWhatItLoaded) {
+    PutContents(
+        folder / "a.rtf",
+        R"({\rtf1{\fonttbl{\f0 Arial;}}{\colortbl;\red1\green2\blue3;}\f0\fs22 plain {\b bold} {\i italic}
+ {\ul line} {\cf1\fs40 large}\line\u8364?\u-10179?\u-9033?\par\qc centred\par\qr right\par\qj spread})");
+    box.Load(folder / "a.rtf");
+    EXPECT_EQ(Document(), ReadRtf(ReadFile(folder / "a.rtf")));
+}
+
+TEST_F(RichTextEdit, ReportsShowWholeLinesHoweverNarrowTheyAre) {
+    box.SetText(std::string(80, 'W') + "\r\n" + std::string(200, 'W'));
+    for (const int width : {200, 400, 620, 640, 700, 1500}) {
+        box.resize(width, 300);
+        box.show();
+        QApplication::processEvents();
+        const QTextBlock line = box.document()->begin();
+        EXPECT_EQ(line.layout()->lineCount(), 1) << width;
+        EXPECT_EQ(line.next().layout()->lineCount() > 1, width < 1500) << width;
+    }
+}
+
+TEST_F(RichTextEdit, TheBeginningShowsWithItsMargin) {
+    std::string text;
+    for (int i = 0; i < 100; ++i) {
+        text += "line\r\n";
+    }
+    box.SetText(text);
+    ShowActive(box);
+    box.Select(text.size(), 0);
+    EXPECT_GT(box.verticalScrollBar()->value(), 0);
+    box.Select(0, 0);
+    EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(RichTextEdit, TheWheelScrollsAndNeverZooms) {
+    std::string text;
+    for (int i = 0; i < 100; ++i) {
+        text += "line\r\n";
+    }
+    box.SetText(text);
+    ShowActive(box);
+    const RichDocument before = Document();
+    const auto turn = [&](Qt::KeyboardModifiers keys) {
+        QWheelEvent event(QPointF(10, 10), box.viewport()->mapToGlobal(QPointF(10, 10)), {}, QPoint(0, -120),
+                          Qt::NoButton, keys, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(box.viewport(), &event);
+    };
+    const QFont font = box.font();
+    turn(Qt::ControlModifier);
+    EXPECT_EQ(Document(), before);
+    EXPECT_EQ(box.font(), font);
+    turn(Qt::NoModifier);
+    EXPECT_GT(box.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(RichTextEdit, TabGoesOn) {
+    QWidget window;
+    box.setParent(&window);
+    QLineEdit next(&window);
+    QWidget::setTabOrder(&box, &next);
+    ShowActive(window);
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_Tab);
+    EXPECT_TRUE(next.hasFocus());
+    EXPECT_EQ(box.Text(), "");
+    box.setParent(nullptr);
+}
+
+} // namespace
+
+} // namespace orvel::testing
