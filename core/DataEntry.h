@@ -9,7 +9,4 @@ namespace orvel {
 // Shows the data window of the program's test kind; any other kind has none.
 void ShowDataWindow(ProgramWindows& windows);
 
-// The same if a test file is open; otherwise the user is told to open one.
-void EditOpenTest(ProgramWindows& windows);
-
 } // namespace orvel

@@ -20,22 +20,21 @@ inline constexpr unsigned kPrintDialogFlags =
 
 enum class Orientation : std::int16_t { Portrait = 1, Landscape = 2 };
 
-// What the print dialog is asked for.
+// A print dialog: what it is asked for, and what the user chose in it, with which it opens the next time. The
+// printer and the pages that were chosen are kept by the Printer.
 struct PrintDialog {
     std::string title;
     unsigned flags = 0; // of PrintDialogFlag
+    Orientation orientation = Orientation::Portrait;
+    int copies = 1;
 };
 
-// The print dialog, which keeps what was chosen in it. Its printer, orientation and pages are those of the
-// Printer.
 class PrintDialogService {
 public:
     virtual ~PrintDialogService() = default;
-    // Returns when the user has chosen; raises Cancel was selected when the user did not.
-    virtual void ShowPrinter(const PrintDialog& dialog) = 0;
-    [[nodiscard]] virtual Orientation ChosenOrientation() const = 0;
-    [[nodiscard]] virtual int Copies() const = 0;
-    virtual void SetCopies(int copies) = 0;
+    // Returns when the user has chosen; raises Cancel was selected, with the dialog as it was, when the user
+    // did not.
+    virtual void ShowPrinter(PrintDialog& dialog) = 0;
 };
 
 // What a page is drawn on; a rich-text box knows what to do with it.

@@ -186,7 +186,11 @@ void frmMain::mnuHelpAbout_Click() {
 }
 
 void frmMain::cmdBtnEditExisting_Click() {
-    EditOpenTest(windows);
+    if (!FileExists(CurrentFile())) {
+        Tell("Please create a new file or open an existing file first", "No Data File Open");
+        return;
+    }
+    ShowDataWindow(windows);
 }
 
 void frmMain::cmdBtnNewDataFile_Click() {

@@ -33,10 +33,23 @@ TwipsRect DrawingArea(const Printer& printer) {
             .bottom = RoundToLong(printer.Height() - kInch) - topOffset};
 }
 
+// Frees what drawing has kept, also where an error ends it.
+class FreeAtEnd {
+public:
+    explicit FreeAtEnd(RichTextBox& ofText) : box(ofText) {}
+    ~FreeAtEnd() { box.FreeDrawing(); }
+    FreeAtEnd(const FreeAtEnd&) = delete;
+    FreeAtEnd& operator=(const FreeAtEnd&) = delete;
+
+private:
+    RichTextBox& box;
+};
+
 } // namespace
 
 void PrintRichText(RichTextBox& box) {
     Printer& printer = CurrentPrinter();
+    const FreeAtEnd freeAtEnd(box);
     printer.PrintBlank();
     printer.UseTwips();
     FormatRange range;
@@ -61,11 +74,10 @@ void PrintRichText(RichTextBox& box) {
         range.targetContext = &printer.Context();
     }
     printer.EndDoc();
-    box.FreeDrawing();
 }
 
-void ShowPrintDialog() {
-    CurrentPlatform().printDialog->ShowPrinter({.title = "Print Report", .flags = kPrintDialogFlags});
+PrintDialog NewPrintDialog() {
+    return {.title = "Print Report", .flags = kPrintDialogFlags};
 }
 
 bool HasTextToPrint(const RichTextBox& box) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Printing.h"
 #include "report/RichTextBox.h"
 
 #include <functional>
@@ -12,8 +13,8 @@ namespace orvel {
 // paper's edges. Raises what the printer and the box raise; the job is then still to be dropped.
 void PrintRichText(RichTextBox& box);
 
-// Shows the print dialog of the report and the viewer. Raises Cancel was selected.
-void ShowPrintDialog();
+// The print dialog of the report and the viewer, as it opens first.
+[[nodiscard]] PrintDialog NewPrintDialog();
 
 // Whether there is a text to print; the user is told when there is none.
 [[nodiscard]] bool HasTextToPrint(const RichTextBox& box);

@@ -58,7 +58,8 @@ float LengthOf(const KeptLength& length) {
 } // namespace
 
 frmReport::frmReport(View& ofWindow, ProgramWindows& ofProgram)
-    : view(ofWindow), windows(ofProgram), reportRTB(ofWindow.ReportRTB()), builder(reportRTB) {}
+    : view(ofWindow), windows(ofProgram), reportRTB(ofWindow.ReportRTB()), builder(reportRTB),
+      printDialog(NewPrintDialog()) {}
 
 void frmReport::Form_Load() {
     std::array<float, kKeptLengths.size()> lengths{};
@@ -120,7 +121,7 @@ void frmReport::mnuFileOpen_Click() {
         TellError(PathText(path) + " can't be opened: " + error.what() + ".", "Open File");
         return;
     }
-    ShowNothingPressed();
+    ShowBoldAndItalic();
     view.SetStatusText("Current RTF File: " + FileNameText(path));
 }
 
@@ -175,7 +176,7 @@ void frmReport::mnuMainWindow_Click() {
 }
 
 void frmReport::mnuDataEntry_Click() {
-    EditOpenTest(windows);
+    ShowDataWindow(windows);
 }
 
 void frmReport::mnuInstructions_Click() {
@@ -227,7 +228,7 @@ bool frmReport::BuildReport() {
     } else {
         return false;
     }
-    ShowNothingPressed();
+    ShowBoldAndItalic();
     return true;
 }
 
@@ -247,9 +248,9 @@ void frmReport::Lock(bool isLocked) {
     view.ShowPressed(ToolButton::Lock, isLocked);
 }
 
-void frmReport::ShowNothingPressed() {
-    view.ShowPressed(ToolButton::Bold, false);
-    view.ShowPressed(ToolButton::Italic, false);
+void frmReport::ShowBoldAndItalic() {
+    view.ShowPressed(ToolButton::Bold, reportRTB.IsSelectionBold());
+    view.ShowPressed(ToolButton::Italic, reportRTB.IsSelectionItalic());
 }
 
 void frmReport::ToggleWholeText(ToolButton button, bool (RichTextBox::*has)() const,
@@ -263,20 +264,19 @@ void frmReport::ToggleWholeText(ToolButton button, bool (RichTextBox::*has)() co
 void frmReport::Print() {
     const Platform& platform = CurrentPlatform();
     PrinterSettings(kSaveThem);
-    ShowPrintDialog();
-    printOrientation = platform.printDialog->ChosenOrientation() == Orientation::Landscape
-                           ? Orientation::Landscape
-                           : Orientation::Portrait;
+    platform.printDialog->ShowPrinter(printDialog);
+    printOrientation =
+        printDialog.orientation == Orientation::Landscape ? Orientation::Landscape : Orientation::Portrait;
     platform.printer->SetPaperOrientation(printOrientation);
     if (!HasTextToPrint(reportRTB)) {
         return;
     }
     // Each copy is a job of its own.
     platform.printer->SetCopies(1);
-    for (int left = platform.printDialog->Copies(); left > 0; --left) {
+    for (int left = printDialog.copies; left > 0; --left) {
         PrintRichText(reportRTB);
     }
-    platform.printDialog->SetCopies(1);
+    printDialog.copies = 1;
 }
 
 } // namespace orvel

@@ -7,7 +7,6 @@
 #include "report/ReportBuilder.h"
 #include "report/RichTextBox.h"
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -94,8 +93,8 @@ private:
     bool BuildReport();
     void ShowCurrentFile();
     void Lock(bool isLocked);
-    // Nothing of a text that was just put in counts as pressed.
-    void ShowNothingPressed();
+    // Of a text that was just put in, as it begins.
+    void ShowBoldAndItalic();
     // Makes a property of the whole text the opposite of what it is; a text that has it in part gets it.
     void ToggleWholeText(ToolButton button, bool (RichTextBox::*has)() const, void (RichTextBox::*set)(bool));
     void Print();
@@ -104,6 +103,7 @@ private:
     ProgramWindows& windows;
     RichTextBox& reportRTB;
     ReportBuilder builder;
+    PrintDialog printDialog;
     Orientation printOrientation = Orientation::Portrait;
 };
 

@@ -30,6 +30,9 @@ constexpr const char* kHowToMakeHelp = "To create a help file, use a word proces
 
 } // namespace
 
+frmShowRTF::frmShowRTF(View& ofWindow)
+    : view(ofWindow), textBox(ofWindow.TextBox()), printDialog(NewPrintDialog()) {}
+
 void frmShowRTF::ShowTopic(std::string_view what) {
     const ProgramState& program = Program();
     if (what == kViewHelp) {
@@ -70,8 +73,8 @@ void frmShowRTF::ShowPlainText(const std::string& text) {
 void frmShowRTF::cmdBtnPrint_Click() {
     RunPrintCommand([this] {
         const Platform& platform = CurrentPlatform();
-        ShowPrintDialog();
-        platform.printer->SetCopies(platform.printDialog->Copies());
+        platform.printDialog->ShowPrinter(printDialog);
+        platform.printer->SetCopies(printDialog.copies);
         if (HasTextToPrint(textBox)) {
             PrintRichText(textBox);
         }

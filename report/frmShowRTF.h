@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/Printing.h"
 #include "report/RichTextBox.h"
 
 #include <string>
@@ -24,7 +25,7 @@ public:
     };
 
     // The view must outlive it.
-    explicit frmShowRTF(View& ofWindow) : view(ofWindow), textBox(ofWindow.TextBox()) {}
+    explicit frmShowRTF(View& ofWindow);
 
     // Shows what the name stands for: kViewHelp, kViewCenterPivotData or kViewSolidSetData (ProgramWindows).
     void ShowTopic(std::string_view what);
@@ -40,6 +41,7 @@ private:
 
     View& view;
     RichTextBox& textBox;
+    PrintDialog printDialog;
 };
 
 } // namespace orvel

@@ -123,9 +123,9 @@ void QtPrinter::SetPaperOrientation(Orientation orientation) {
                                                                       : QPageLayout::Portrait);
 }
 
-void QtPrintDialog::ShowPrinter(const PrintDialog& dialog) {
+void QtPrintDialog::ShowPrinter(PrintDialog& dialog) {
     QPrinter& device = printer.Device();
-    device.setCopyCount(copies);
+    device.setCopyCount(dialog.copies);
     QPrintDialog window(&device, WindowInFront());
     window.setWindowTitle(ToQt(dialog.title));
     window.setOption(QAbstractPrintDialog::PrintToFile, (dialog.flags & kHidePrintToFile) == 0);
@@ -134,7 +134,8 @@ void QtPrintDialog::ShowPrinter(const PrintDialog& dialog) {
     if (window.exec() != QDialog::Accepted) {
         Raise(ErrorNumber::CancelWasSelected);
     }
-    copies = device.copyCount();
+    dialog.orientation = printer.PaperOrientation();
+    dialog.copies = device.copyCount();
 }
 
 } // namespace orvel::ui

@@ -69,14 +69,10 @@ class QtPrintDialog : public PrintDialogService {
 public:
     explicit QtPrintDialog(QtPrinter& forDialog) : printer(forDialog) {}
 
-    void ShowPrinter(const PrintDialog& dialog) override;
-    [[nodiscard]] Orientation ChosenOrientation() const override { return printer.PaperOrientation(); }
-    [[nodiscard]] int Copies() const override { return copies; }
-    void SetCopies(int newCopies) override { copies = newCopies; }
+    void ShowPrinter(PrintDialog& dialog) override;
 
 private:
     QtPrinter& printer;
-    int copies = 1;
 };
 
 } // namespace orvel::ui

@@ -105,12 +105,9 @@ void Insert(QTextCursor& cursor, const RichDocument& document) {
     cursor.endEditBlock();
 }
 
-RichDocument Selected(const QTextCursor& cursor) {
+RichDocument Extract(const QTextDocument& source, int begin, int end) {
     RichDocument document;
     document.paragraphs.clear();
-    const QTextDocument& source = *cursor.document();
-    const int begin = cursor.selectionStart();
-    const int end = cursor.selectionEnd();
     for (QTextBlock block = source.findBlock(begin); block.isValid() && block.position() <= end;
          block = block.next()) {
         Paragraph& paragraph = document.paragraphs.emplace_back();

@@ -17,7 +17,7 @@ namespace orvel::ui {
 // Puts the document in the selection's place; it takes the alignment of whole paragraphs with it.
 void Insert(QTextCursor& cursor, const RichDocument& document);
 
-// What the cursor has selected. Pictures and other things that are no text are left out.
-[[nodiscard]] RichDocument Selected(const QTextCursor& cursor);
+// The text from one position to another. Pictures and other things that are no text are left out.
+[[nodiscard]] RichDocument Extract(const QTextDocument& source, int begin, int end);
 
 } // namespace orvel::ui

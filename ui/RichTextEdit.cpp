@@ -72,17 +72,12 @@ std::string_view BytesOf(const QByteArray& bytes) {
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
     QFont font(kReportFont);
     font.setPointSize(kReportFontPoints);
-    document()->setDefaultFont(font);
     setFont(font);
+    ShowDocument(NewDocument());
     // The documents of word processors do not speak HTML.
     setAcceptRichText(false);
     setTabChangesFocus(true);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    connect(document(), &QTextDocument::contentsChange, this, [this] {
-        if (!isOwnChange) {
-            content.reset();
-        }
-    });
     connect(this, &QTextEdit::currentCharFormatChanged, this, [this](const QTextCharFormat& format) {
         if (!isOwnChange) {
             caretFormat = format;
@@ -98,15 +93,11 @@ void RichTextEdit::SetText(std::string_view text) {
     const QScopedValueRollback own(isOwnChange, true);
     caretFormat.clearForeground();
     caretFormat.setFontUnderline(false);
-    // No undo leads back to half a report.
-    document()->setUndoRedoEnabled(false);
-    document()->clear();
-    QTextCursor cursor(document());
+    auto fresh = NewDocument();
+    QTextCursor cursor(fresh.get());
     cursor.setBlockCharFormat(caretFormat);
     cursor.insertText(ParagraphsOf(text), caretFormat);
-    cursor.movePosition(QTextCursor::Start);
-    setTextCursor(cursor);
-    document()->setUndoRedoEnabled(true);
+    ShowDocument(std::move(fresh));
     content = Content{std::string{text}, TextPositions(text)};
     UseFormat(caretFormat);
 }
@@ -179,7 +170,9 @@ void RichTextEdit::SetFontName(const std::string& name) {
     const QScopedValueRollback own(isOwnChange, true);
     QTextCharFormat change;
     change.setFontFamilies({ToQt(name)});
-    Everything().mergeCharFormat(change);
+    QTextCursor everything(document());
+    everything.select(QTextCursor::Document);
+    everything.mergeCharFormat(change);
     caretFormat.merge(change);
     UseFormat(caretFormat);
 }
@@ -195,19 +188,43 @@ void RichTextEdit::SetReadOnly(bool isReadOnly) {
 void RichTextEdit::Load(const std::filesystem::path& file) {
     const WaitingCursor waiting;
     const RichDocument loaded = ReadRtf(ReadFile(file));
-    const QScopedValueRollback own(isOwnChange, true);
-    document()->setUndoRedoEnabled(false);
-    document()->clear();
-    QTextCursor cursor(document());
+    auto fresh = NewDocument();
+    QTextCursor cursor(fresh.get());
     Insert(cursor, loaded);
-    document()->setUndoRedoEnabled(true);
+    ShowDocument(std::move(fresh));
     content.reset();
     Select(0, 0);
 }
 
 void RichTextEdit::Save(const std::filesystem::path& file) const {
     const WaitingCursor waiting;
-    ReplaceFile(file, WriteRtf(Selected(Everything())), Flush::ToDisk);
+    // Not by a cursor, which would have the whole document laid out.
+    ReplaceFile(file, WriteRtf(Extract(*document(), 0, document()->characterCount() - 1)), Flush::ToDisk);
+}
+
+std::unique_ptr<QTextDocument> RichTextEdit::NewDocument() const {
+    auto fresh = std::make_unique<QTextDocument>();
+    fresh->setDefaultFont(font());
+    fresh->setUndoRedoEnabled(false);
+    return fresh;
+}
+
+void RichTextEdit::ShowDocument(std::unique_ptr<QTextDocument> fresh) {
+    const QScopedValueRollback own(isOwnChange, true);
+    const QTextDocument* old = document();
+    fresh->setParent(this);
+    setDocument(fresh.release());
+    if (old->parent() == this) {
+        // The first one is the toolkit's.
+        delete old;
+    }
+    // From now on: no undo leads back to half a report.
+    document()->setUndoRedoEnabled(true);
+    connect(document(), &QTextDocument::contentsChange, this, [this] {
+        if (!isOwnChange) {
+            content.reset();
+        }
+    });
 }
 
 const RichTextEdit::Content& RichTextEdit::Current() const {
@@ -242,23 +259,19 @@ RichTextEdit::Content RichTextEdit::ReadDocument() const {
     return read;
 }
 
-QTextCursor RichTextEdit::Everything() const {
-    QTextCursor cursor(document());
-    cursor.select(QTextCursor::Document);
-    return cursor;
+RichDocument RichTextEdit::Selected() const {
+    const QTextCursor cursor = textCursor();
+    return Extract(*document(), cursor.selectionStart(), cursor.selectionEnd());
 }
 
 bool RichTextEdit::HasAllOfSelection(bool CharacterFormat::*property) const {
-    const QTextCursor cursor = textCursor();
     bool isEmpty = true;
-    if (cursor.hasSelection()) {
-        for (const Paragraph& paragraph : Selected(cursor).paragraphs) {
-            for (const TextRun& run : paragraph.runs) {
-                if (!(run.format.*property)) {
-                    return false;
-                }
-                isEmpty = false;
+    for (const Paragraph& paragraph : Selected().paragraphs) {
+        for (const TextRun& run : paragraph.runs) {
+            if (!(run.format.*property)) {
+                return false;
             }
+            isEmpty = false;
         }
     }
     return !isEmpty || ui::FromQt(caretFormat, *document()).*property;
@@ -312,7 +325,7 @@ void RichTextEdit::wheelEvent(QWheelEvent* event) {
 
 QMimeData* RichTextEdit::createMimeDataFromSelection() const {
     auto* data = new QMimeData;
-    const RichDocument selected = Selected(textCursor());
+    const RichDocument selected = Selected();
     data->setText(QString::fromStdU32String(PlainText(selected)));
     data->setData(kRtf, QByteArray::fromStdString(WriteRtf(selected)));
     return data;

@@ -58,10 +58,12 @@ private:
         TextPositions positions;
     };
 
+    // A text is put together beside the screen: a document that is shown is laid out at every change.
+    [[nodiscard]] std::unique_ptr<QTextDocument> NewDocument() const;
+    void ShowDocument(std::unique_ptr<QTextDocument> fresh);
     [[nodiscard]] const Content& Current() const;
     [[nodiscard]] Content ReadDocument() const;
-    // The whole text, as a selection.
-    [[nodiscard]] QTextCursor Everything() const;
+    [[nodiscard]] RichDocument Selected() const;
     [[nodiscard]] bool HasAllOfSelection(bool CharacterFormat::*property) const;
     void ChangeSelection(const QTextCharFormat& change);
     void UseFormat(const QTextCharFormat& format);

@@ -15,7 +15,8 @@ namespace orvel::ui {
 // It deletes itself when it is closed.
 class ViewerWindow : public QDialog, private frmShowRTF::View {
 public:
-    // The owner is a modal window: the viewer can be used beside it and closes with it. None: it stands alone.
+    // The owner is a modal window: the viewer can be used beside it and closes with it. None: it stands
+    // alone.
     explicit ViewerWindow(QWidget* owner);
 
     // Shows what the name stands for (ProgramWindows::ShowViewer), in front of the other windows.

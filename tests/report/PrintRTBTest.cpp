@@ -109,27 +109,29 @@ TEST_F(PrintRTB, APaperThatTakesNoLineIsAnError) {
     box.SetText("text");
     box.pageEnds = {0};
     ExpectRunTimeError(ErrorNumber::DeviceIoError, [this] { PrintRichText(box); });
-    EXPECT_EQ(Said(), (Lines{"blank", "twips", "draw from 0 to -1 on page 1"}));
+    EXPECT_EQ(Said(), (Lines{"blank", "twips", "draw from 0 to -1 on page 1", "free"}));
 }
 
 TEST_F(PrintRTB, APageThatGoesNoFurtherThanTheLastOneIsAnError) {
     box.SetText("page 1page 2");
     box.pageEnds = {6, 6};
     ExpectRunTimeError(ErrorNumber::DeviceIoError, [this] { PrintRichText(box); });
-    EXPECT_EQ(Said().back(), "draw from 6 to -1 on page 2");
+    const Lines said = Said();
+    EXPECT_EQ(Lines(said.end() - 2, said.end()), (Lines{"draw from 6 to -1 on page 2", "free"}));
 }
 
 TEST_F(PrintRTB, ErrorsOfThePrinterAreNotTrapped) {
     box.SetText("text");
     printer.blankError = ErrorNumber::DeviceIoError;
     ExpectRunTimeError(ErrorNumber::DeviceIoError, [this] { PrintRichText(box); });
-    EXPECT_EQ(Said(), (Lines{"blank"}));
+    EXPECT_EQ(Said(), (Lines{"blank", "free"}));
 
     printer.blankError.reset();
     printer.newPageError = ErrorNumber::DiskFull;
     box.pageEnds = {2};
     ExpectRunTimeError(ErrorNumber::DiskFull, [this] { PrintRichText(box); });
-    EXPECT_EQ(Said().back(), "new page");
+    const Lines said = Said();
+    EXPECT_EQ(Lines(said.end() - 2, said.end()), (Lines{"new page", "free"}));
 }
 
 TEST_F(PrintRTB, OnlyATextThatIsEmptyIsNotPrinted) {

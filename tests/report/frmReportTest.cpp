@@ -383,6 +383,20 @@ TEST_F(FrmReport, OpenShowsARichTextFile) {
     EXPECT_EQ(Said().back(), "status Current File: pivot-1978.cpd");
 }
 
+TEST_F(FrmReport, AnOpenedTextIsBoldAllOverAlsoAtItsLineEnds) {
+    LoadPivot();
+    reportBox.Select(100, 50);
+    PutContents(folder / "bold.rtf", R"({\rtf1\b one\par two})");
+    surroundings.paths = {folder / "bold.rtf"};
+    window.mnuFileOpen_Click();
+    Said();
+    EXPECT_EQ(reportBox.Text(), "one\r\ntwo");
+    EXPECT_EQ(reportBox.SelectionStart(), 0U);
+    EXPECT_EQ(reportBox.SelectionLength(), 0U);
+    window.tbToolBar_ButtonClick("Bold");
+    EXPECT_EQ(Said(), (Lines{"button 5 unpressed"}));
+}
+
 TEST_F(FrmReport, AnOpenThatIsCancelledOrOfAVanishedFileChangesNothing) {
     LoadPivot();
     surroundings.paths = {{}, folder / "gone.rtf", folder.Path()};
@@ -460,7 +474,7 @@ TEST_F(FrmReport, PrintingTakesItsStepsInTheirOrder) {
     printDialog.chosenCopies = 3;
     reportBox.pageEnds = {100, 200};
     window.mnuFilePrint_Click();
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006",
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies",
                              "orientation 1",
                              "printer's copies 1",
                              "blank",
@@ -483,9 +497,11 @@ TEST_F(FrmReport, PrintingTakesItsStepsInTheirOrder) {
                              "twips",
                              "draw from 0 to -1 on page 1",
                              "end of document",
-                             "free",
-                             "dialog's copies 1"}));
+                             "free"}));
     EXPECT_EQ(window.PrintOrientation(), Orientation::Portrait);
+    printDialog.chosenCopies.reset();
+    window.mnuFilePrint_Click();
+    EXPECT_EQ(Said().front(), "print dialog [Print Report] 0x140006, 1 copies") << "again one";
 }
 
 TEST_F(FrmReport, PrintingSavesThePrintersSettingsBeforeItsDialog) {
@@ -496,11 +512,12 @@ TEST_F(FrmReport, PrintingSavesThePrintersSettingsBeforeItsDialog) {
     ASSERT_TRUE(Program().savedPrinterSettings);
     EXPECT_EQ(Program().savedPrinterSettings->orientation, Orientation::Landscape);
     EXPECT_EQ(Program().savedPrinterSettings->copies, 7);
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"})) << "cancelled without a word";
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies"}))
+        << "cancelled without a word";
     EXPECT_EQ(printer.orientation, Orientation::Landscape) << "nobody sets them back";
 
     window.tbToolBar_ButtonClick("Print");
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"})) << "nor from the tool bar";
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies"})) << "nor from the tool bar";
 }
 
 TEST_F(FrmReport, PrintingRemembersTheOrientationOfTheDialog) {
@@ -521,17 +538,19 @@ TEST_F(FrmReport, AnEmptyTextIsToldBehindTheDialog) {
     window.mnuFileClose_Click();
     printDialog.chosenCopies = 2;
     window.mnuFilePrint_Click();
-    EXPECT_EQ(Said(), (Lines{"emptied", "print dialog [Print Report] 0x140006", "orientation 1",
+    EXPECT_EQ(Said(), (Lines{"emptied", "print dialog [Print Report] 0x140006, 1 copies", "orientation 1",
                              "box [Printing Error] There is no text to print. (Ok)"}));
-    EXPECT_EQ(printDialog.chosenCopies, 2);
+    printDialog.chosenCopies.reset();
+    window.mnuFilePrint_Click();
+    EXPECT_EQ(Said().front(), "print dialog [Print Report] 0x140006, 2 copies") << "nothing was printed";
 }
 
 TEST_F(FrmReport, APrinterThatFailsIsToldAndTheReportStays) {
     LoadPivot();
     printer.blankError = ErrorNumber::DeviceIoError;
     window.mnuFilePrint_Click();
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006", "orientation 1", "printer's copies 1",
-                             "blank", "job dropped",
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies", "orientation 1",
+                             "printer's copies 1", "blank", "free", "job dropped",
                              "box [Printing Error] The text could not be printed: Device I/O error. (Ok, "
                              "Critical)"}));
     EXPECT_TRUE(ShowsReport());
@@ -553,6 +572,21 @@ TEST_F(FrmReport, BoldIsTheOppositeOfTheWholeText) {
     EXPECT_EQ(Said(), (Lines{"button 5 unpressed"}));
     reportBox.Select(10, 1);
     EXPECT_FALSE(reportBox.IsSelectionBold());
+}
+
+TEST_F(FrmReport, ButtonsSayHowABuiltTextBegins) {
+    LoadPivot();
+    window.tbToolBar_ButtonClick("Bold");
+    Program().centerPivotTest.ClientName = "";
+    Said();
+    window.mnuRefreshReport_Click();
+    EXPECT_EQ(reportBox.Text(), "Errors in data file - report not created.");
+    EXPECT_TRUE(reportBox.IsSelectionBold()) << "no report, no reset";
+    EXPECT_EQ(Said().at(1), "button 5 pressed");
+    Program().centerPivotTest.ClientName = "Somebody";
+    window.mnuRefreshReport_Click();
+    EXPECT_FALSE(reportBox.IsSelectionBold());
+    EXPECT_EQ(Said().at(1), "button 5 unpressed");
 }
 
 TEST_F(FrmReport, ItalicIsTheOppositeOfTheWholeText) {
@@ -614,16 +648,15 @@ TEST_F(FrmReport, LeadsToTheOtherWindows) {
                              "unload"}));
 }
 
-TEST_F(FrmReport, DataEntryNeedsAnOpenTestAndFollowsItsKind) {
+TEST_F(FrmReport, DataEntryFollowsTheKindAlone) {
     window.mnuDataEntry_Click();
-    EXPECT_EQ(Said(),
-              (Lines{"box [No Data File Open] Please create a new file or open an existing file first "
-                     "(Ok)"}));
-    OpenPivot();
+    Program().testKind = kSolidSet;
     window.mnuDataEntry_Click();
-    OpenSolid();
+    EXPECT_EQ(Said(), (Lines{"show frmCenterPivotData", "show frmSolidSetData"}))
+        << "without an open file, too";
+    Program().testKind = "none";
     window.mnuDataEntry_Click();
-    EXPECT_EQ(Said(), (Lines{"show frmCenterPivotData", "show frmSolidSetData"}));
+    EXPECT_EQ(Said(), Lines{});
 }
 
 TEST_F(FrmReport, AnUnknownButtonDoesNothing) {

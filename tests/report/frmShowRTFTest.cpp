@@ -110,13 +110,13 @@ TEST_F(FrmShowRTF, PrintingSetsThePrintersCopiesAndPrintsOnce) {
     box.SetText("text");
     printDialog.chosenCopies = 3;
     window.cmdBtnPrint_Click();
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006", "printer's copies 3", "blank", "twips",
-                             "draw from 0 to -1 on page 1", "end of document", "free"}));
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies", "printer's copies 3", "blank",
+                             "twips", "draw from 0 to -1 on page 1", "end of document", "free"}));
 }
 
 TEST_F(FrmShowRTF, AnEmptyTextIsToldBehindTheDialog) {
     window.cmdBtnPrint_Click();
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006", "printer's copies 1",
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies", "printer's copies 1",
                              "box [Printing Error] There is no text to print. (Ok)"}));
 }
 
@@ -124,7 +124,7 @@ TEST_F(FrmShowRTF, ACancelledPrintEndsWithoutAWord) {
     box.SetText("text");
     printDialog.error = ErrorNumber::CancelWasSelected;
     window.cmdBtnPrint_Click();
-    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006"}));
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies"}));
 }
 
 TEST_F(FrmShowRTF, PrintingLeavesTheSettingsOfThePrinterAndTheDialogAlone) {
@@ -135,17 +135,19 @@ TEST_F(FrmShowRTF, PrintingLeavesTheSettingsOfThePrinterAndTheDialogAlone) {
     Said();
     EXPECT_FALSE(Program().savedPrinterSettings);
     EXPECT_EQ(printer.orientation, Orientation::Portrait);
-    EXPECT_EQ(printDialog.chosenCopies, 2);
+    printDialog.chosenCopies.reset();
+    window.cmdBtnPrint_Click();
+    EXPECT_EQ(Said().front(), "print dialog [Print Report] 0x140006, 2 copies") << "as it was left";
 }
 
 TEST_F(FrmShowRTF, APrinterThatFailsIsToldAndTheTextStays) {
     box.SetText("text");
     printer.blankError = ErrorNumber::DeviceIoError;
     window.cmdBtnPrint_Click();
-    EXPECT_EQ(Said(),
-              (Lines{"print dialog [Print Report] 0x140006", "printer's copies 1", "blank", "job dropped",
-                     "box [Printing Error] The text could not be printed: Device I/O error. (Ok, "
-                     "Critical)"}));
+    EXPECT_EQ(Said(), (Lines{"print dialog [Print Report] 0x140006, 1 copies", "printer's copies 1", "blank",
+                             "free", "job dropped",
+                             "box [Printing Error] The text could not be printed: Device I/O error. (Ok, "
+                             "Critical)"}));
     EXPECT_EQ(box.Text(), "text");
 }
 

@@ -26,20 +26,17 @@ public:
     explicit FakePrintDialog(Surroundings& ofTest) : surroundings(ofTest) {}
 
     Orientation chosenOrientation = Orientation::Portrait;
-    int chosenCopies = 1;
+    std::optional<int> chosenCopies;  // else what the dialog opens with
     std::optional<ErrorNumber> error; // what showing it raises
 
-    void ShowPrinter(const PrintDialog& dialog) override {
+    void ShowPrinter(PrintDialog& dialog) override {
         std::ostringstream line;
-        line << "print dialog [" << dialog.title << "] 0x" << std::hex << dialog.flags;
+        line << "print dialog [" << dialog.title << "] 0x" << std::hex << dialog.flags << std::dec << ", "
+             << dialog.copies << " copies";
         surroundings.Note(line.str());
         RaiseIf(error);
-    }
-    [[nodiscard]] Orientation ChosenOrientation() const override { return chosenOrientation; }
-    [[nodiscard]] int Copies() const override { return chosenCopies; }
-    void SetCopies(int copies) override {
-        surroundings.Note("dialog's copies " + std::to_string(copies));
-        chosenCopies = copies;
+        dialog.orientation = chosenOrientation;
+        dialog.copies = chosenCopies.value_or(dialog.copies);
     }
 
 private:
