@@ -51,9 +51,9 @@ void QtPrinter::BeginPage(int number) {
         }
     } else {
         const QString name = Device().printerName();
+        const bool goesToFile = !Device().outputFileName().isEmpty();
         // A printer that is gone would be taken for the default one.
-        if (Device().outputFormat() == QPrinter::NativeFormat &&
-            !QPrinterInfo::availablePrinterNames().contains(name)) {
+        if (!goesToFile && !QPrinterInfo::availablePrinterNames().contains(name)) {
             throw PrinterError(name.isEmpty() ? "there is no printer"
                                               : "there is no printer " + FromQt(name) + " any more");
         }

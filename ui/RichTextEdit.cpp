@@ -15,6 +15,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QMimeData>
+#include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -211,13 +212,11 @@ std::unique_ptr<QTextDocument> RichTextEdit::NewDocument() const {
 
 void RichTextEdit::ShowDocument(std::unique_ptr<QTextDocument> fresh) {
     const QScopedValueRollback own(isOwnChange, true);
-    const QTextDocument* old = document();
+    // The first one is the toolkit's, which deletes it.
+    const QPointer<QTextDocument> old = document();
     fresh->setParent(this);
     setDocument(fresh.release());
-    if (old->parent() == this) {
-        // The first one is the toolkit's.
-        delete old;
-    }
+    delete old;
     // From now on: no undo leads back to half a report.
     document()->setUndoRedoEnabled(true);
     connect(document(), &QTextDocument::contentsChange, this, [this] {
