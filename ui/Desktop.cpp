@@ -74,23 +74,32 @@ void Desktop::ShowMain() {
 }
 
 void Desktop::ShowCenterPivotData() {
-    ShowModal(CenterPivotDataDialog(WindowInFront(), *this));
+    ShowModal(CenterPivotDataDialog(OwnerOfModal(), *this));
 }
 
 void Desktop::ShowSolidSetData() {
-    ShowModal(SolidSetDataDialog(WindowInFront(), *this));
+    ShowModal(SolidSetDataDialog(OwnerOfModal(), *this));
 }
 
 void Desktop::ShowUserData() {
-    ShowModal(UserDataDialog(WindowInFront()));
+    ShowModal(UserDataDialog(OwnerOfModal()));
 }
 
 void Desktop::ShowSoilIntake() {
-    ShowModal(SoilIntakeDialog(WindowInFront()));
+    ShowModal(SoilIntakeDialog(OwnerOfModal()));
 }
 
 void Desktop::ShowAbout() {
-    ShowModal(AboutDialog(WindowInFront()));
+    ShowModal(AboutDialog(OwnerOfModal()));
+}
+
+QWidget* Desktop::OwnerOfModal() const {
+    QWidget* front = WindowInFront();
+    if (front == nullptr || front != viewer) {
+        return front;
+    }
+    QWidget* owner = viewer->parentWidget();
+    return owner == nullptr ? mainWindow.get() : owner;
 }
 
 void Desktop::ShowReport() {

@@ -47,6 +47,9 @@ public:
     void EndProgram() override;
 
 private:
+    // Never the viewer, in whose place another one may come at any time.
+    [[nodiscard]] QWidget* OwnerOfModal() const;
+
     QtMessageBox messageBox;
     QtBeeper beeper;
     QtClock clock;

@@ -3,6 +3,7 @@
 #include "ui/InFront.h"
 
 #include <QApplication>
+#include <QPointer>
 
 namespace orvel::ui {
 
@@ -15,11 +16,20 @@ bool BelongsTo(const QWidget* window, const QWidget* owner) {
     return window != nullptr;
 }
 
+QWidget* ActiveWindow() {
+    // Between a dialog that has just gone and the next no window is active.
+    static QPointer<QWidget> last;
+    if (QWidget* active = QApplication::activeWindow()) {
+        last = active;
+    }
+    return last != nullptr && last->isVisible() ? last : nullptr;
+}
+
 } // namespace
 
 QWidget* WindowInFront() {
     QWidget* modal = QApplication::activeModalWidget();
-    QWidget* active = QApplication::activeWindow();
+    QWidget* active = ActiveWindow();
     if (modal != nullptr) {
         return BelongsTo(active, modal) ? active : modal;
     }

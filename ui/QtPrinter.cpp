@@ -5,6 +5,7 @@
 #include "ui/InFront.h"
 #include "ui/TextEdge.h"
 
+#include <QPageRanges>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
@@ -68,9 +69,8 @@ void QtPrinter::BeginPage(int number) {
 }
 
 bool QtPrinter::IsWanted(int number) const {
-    const int from = Device().fromPage();
-    const int to = Device().toPage();
-    return Device().printRange() != QPrinter::PageRange || from == 0 || (number >= from && number <= to);
+    const QPageRanges chosen = Device().pageRanges();
+    return Device().printRange() != QPrinter::PageRange || chosen.isEmpty() || chosen.contains(number);
 }
 
 void QtPrinter::EndDoc() {
@@ -131,6 +131,15 @@ void QtPrintDialog::ShowPrinter(PrintDialog& dialog) {
     window.setOption(QAbstractPrintDialog::PrintToFile, (dialog.flags & kHidePrintToFile) == 0);
     window.setOption(QAbstractPrintDialog::PrintSelection, (dialog.flags & kPrintNoSelection) == 0);
     window.setOption(QAbstractPrintDialog::PrintPageRange, (dialog.flags & kPrintPageNumbers) != 0);
+    // How many there are shows when they are laid out.
+    constexpr int kMostPages = 9999;
+    window.setMinMax(1, kMostPages);
+    // The toolkit's list of pages takes no list, however it is written; its "from" and "to" work.
+    for (const char* control : {"pagesRadioButton", "pagesLineEdit"}) {
+        if (auto* broken = window.findChild<QWidget*>(control)) {
+            broken->hide();
+        }
+    }
     if (window.exec() != QDialog::Accepted) {
         Raise(ErrorNumber::CancelWasSelected);
     }

@@ -22,6 +22,8 @@ PATIENCE = 20  # seconds
 
 
 class Desktop:
+    WINDOWS = ("frame", "dialog")  # roles
+
     def __init__(self):
         self.processes = []
         self.program = None
@@ -183,10 +185,11 @@ class Desktop:
 
     def _search(self, name, role, window=None):
         shown = self.bus.StateType.SHOWING
-        place = self._application() if window is None else self._search(window, "frame")
+        place = self._application() if window is None else self._search(window, self.WINDOWS)
+        roles = (role,) if isinstance(role, str) else role
         for control in self._controls(place):
             try:
-                if (control.get_name() == name and (role is None or control.get_role_name() == role)
+                if (control.get_name() == name and (roles is None or control.get_role_name() in roles)
                         and control.get_state_set().contains(shown)):
                     return control
             except Exception:  # the control has gone meanwhile

@@ -5,6 +5,7 @@
 #include "centerpivot/CenterPivotSummary.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
+#include "core/Version.h"
 #include "solidset/SolidSetSummary.h"
 #include "tests/support/CompleteUserSettings.h"
 #include "tests/support/TestFiles.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
 #include <chrono>
@@ -30,6 +32,11 @@ protected:
         Program().programDirectory = folder.Path();
         SaveUserSettings(testing::CompleteUserSettings());
         desktop = std::make_unique<Desktop>();
+    }
+
+    ~DesktopProgram() override {
+        // What the report's window left behind.
+        QSettings(QSettings::NativeFormat, QSettings::UserScope, kProgramTitle, kProgramTitle).clear();
     }
 
     static QWidget* WindowOfName(const char* name) {
@@ -105,20 +112,67 @@ TEST_F(DesktopProgram, ADataWindowIsShownUntilItsQuestionIsAnswered) {
     }
 }
 
-TEST_F(DesktopProgram, WhatIsNotBuiltYetSaysSo) {
-    struct Case {
-        std::function<void()> show;
-        const char* text;
-    };
-    for (const Case& each :
-         {Case{[&] { desktop->ShowReport(); }, "The report window is not part of this version yet."},
-          Case{[&] { desktop->ShowViewer(kViewHelp); }, "The viewer is not part of this version yet."}}) {
-        WhileModal(each.show, [&](QWidget& window) {
-            EXPECT_EQ(dynamic_cast<QMessageBox&>(window).text(), each.text);
-            EXPECT_EQ(window.windowTitle(), "ORVEL");
-            QTest::keyClick(&window, Qt::Key_Return);
-        });
-    }
+TEST_F(DesktopProgram, TheReportIsShownOnceAndBuiltAnewWhenAskedForAgain) {
+    desktop->ShowMain();
+    Program().testKind = "";
+    desktop->ShowReport();
+    QWidget* report = WindowOfName("frmReport");
+    ASSERT_NE(report, nullptr);
+    EXPECT_FALSE(report->isModal());
+    Find<QAction>(*report, "Lock").trigger();
+    desktop->ShowReport();
+    EXPECT_EQ(WindowOfName("frmReport"), report);
+    EXPECT_TRUE(Find<QAction>(*report, "Lock").isChecked());
+    report->close();
+    EXPECT_EQ(WindowOfName("frmReport"), nullptr);
+    desktop->ShowReport();
+    EXPECT_NE(WindowOfName("frmReport"), nullptr) << "another one";
+}
+
+TEST_F(DesktopProgram, TheViewerIsOneWindowForAllTopics) {
+    desktop->ShowMain();
+    desktop->ShowViewer(kViewHelp);
+    QWidget* viewer = WindowOfName("frmShowRTF");
+    ASSERT_NE(viewer, nullptr);
+    EXPECT_EQ(viewer->windowTitle(), "No Help File Available");
+    EXPECT_EQ(viewer->parentWidget(), nullptr);
+    desktop->ShowViewer(kViewCenterPivotData);
+    EXPECT_EQ(WindowOfName("frmShowRTF"), viewer);
+    EXPECT_EQ(viewer->windowTitle(), "Center Pivot Data - ");
+    viewer->close();
+    desktop->ShowViewer(kViewHelp);
+    EXPECT_NE(WindowOfName("frmShowRTF"), nullptr);
+}
+
+TEST_F(DesktopProgram, AViewerOfAModalWindowBelongsToItAndClosesWithIt) {
+    desktop->ShowMain();
+    desktop->ShowViewer(kViewHelp);
+    WhileModal([&] { desktop->ShowUserData(); },
+               [&](QWidget& window) {
+                   desktop->ShowViewer(kViewHelp);
+                   QWidget* viewer = WindowOfName("frmShowRTF");
+                   ASSERT_NE(viewer, nullptr);
+                   EXPECT_EQ(viewer->parentWidget(), &window);
+                   desktop->ShowViewer(kViewHelp);
+                   EXPECT_EQ(WindowOfName("frmShowRTF"), viewer) << "still the same";
+                   QTest::keyClick(&window, Qt::Key_Escape);
+               });
+    EXPECT_EQ(WindowOfName("frmShowRTF"), nullptr);
+    desktop->ShowViewer(kViewHelp);
+    EXPECT_NE(WindowOfName("frmShowRTF"), nullptr);
+}
+
+TEST_F(DesktopProgram, EndingItClosesReportAndViewerAndKeepsThePlaceOfTheReport) {
+    desktop->ShowMain();
+    Program().testKind = "";
+    desktop->ShowReport();
+    WindowOfName("frmReport")->resize(777, 555);
+    desktop->ShowViewer(kViewHelp);
+    desktop->EndProgram();
+    EXPECT_EQ(WindowOfName("frmReport"), nullptr);
+    EXPECT_EQ(WindowOfName("frmShowRTF"), nullptr);
+    EXPECT_EQ(QtSettingsStore().Get("Settings", "MainWidth", ""), "11655");
+    EXPECT_EQ(QtSettingsStore().Get("Settings", "MainHeight", ""), "8325");
 }
 
 TEST_F(DesktopProgram, EndingItClosesEveryWindow) {

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QPrintDialog>
+#include <QSpinBox>
 #include <QTimer>
 #include <algorithm>
 
@@ -271,6 +272,8 @@ TEST_F(QtPrinting, TheDialogOffersWhatItsFlagsSay) {
             EXPECT_FALSE(shown.testOption(QAbstractPrintDialog::PrintCurrentPage));
             EXPECT_TRUE(shown.testOption(QAbstractPrintDialog::PrintPageRange));
             EXPECT_EQ(shown.printer()->copyCount(), 2);
+            EXPECT_FALSE(Find<QWidget>(shown, "pagesLineEdit").isVisible());
+            EXPECT_GT(Find<QSpinBox>(shown, "to").maximum(), 1000) << "pages";
             shown.printer()->setCopyCount(5);
             shown.reject();
         });
