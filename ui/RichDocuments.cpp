@@ -94,7 +94,10 @@ void Insert(QTextCursor& cursor, const RichDocument& document) {
         QTextBlockFormat block;
         block.setAlignment(ToQt(paragraph.alignment));
         if (!isFirst(paragraph)) {
-            cursor.insertBlock(block);
+            // The mark of a paragraph has no colour of its own.
+            QTextCharFormat mark = cursor.charFormat();
+            mark.clearForeground();
+            cursor.insertBlock(block, mark);
         } else if (cursor.atBlockStart() && cursor.atBlockEnd()) {
             cursor.setBlockFormat(block);
         }

@@ -78,6 +78,32 @@ class Desktop:
         control = self.find(name, "text")
         return self.bus.Text.get_text(control, 0, -1)
 
+    def colored_parts(self, name):
+        """The parts of a text box that are not black: colour, as in "255,0,0", first position and the one behind."""
+        control = self.find(name, "text")
+        parts, position, end = [], 0, self.bus.Text.get_character_count(control)
+        while position < end:
+            attributes, first, position = self.bus.Text.get_attribute_run(control, position, False)
+            if attributes.get("fg-color", "0,0,0") != "0,0,0":
+                parts.append((attributes["fg-color"], first, position))
+        return parts
+
+    def place_of(self, title):
+        """Left, top, width and height of a window's inside, once they stay the same."""
+        def look():
+            answer = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$", "getwindowgeometry",
+                                     "--shell"], capture_output=True, text=True, check=False).stdout
+            values = dict(line.split("=") for line in answer.splitlines())
+            return tuple(int(values[key]) for key in ("X", "Y", "WIDTH", "HEIGHT")) if "X" in values else None
+        places = [None]
+
+        def stays():
+            places.append(look())
+            time.sleep(0.3)
+            return places[-1] is not None and places[-1] == places[-2]
+        self._wait(stays, title + " to stay where it is")
+        return places[-1]
+
     # --- What is done ------------------------------------------------------------------------------------
 
     def press(self, name, role="push button", window=None):
@@ -107,6 +133,13 @@ class Desktop:
                                     check=False)
             return answer.stdout.strip() == title
         self._wait(is_active, "the keys to go to " + title)
+
+    def place(self, title, left, top, width, height):
+        self._xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowmove", str(left), str(top), "windowsize",
+                      str(width), str(height))
+
+    def minimize(self, title):
+        self._xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowminimize")
 
     def type(self, text):
         self._xdotool("type", "--delay", "5", text.replace("\n", "\r"))

@@ -1,57 +1,18 @@
 # SPDX-FileCopyrightText: 2026 The ORVEL developers
 # SPDX-License-Identifier: MIT
-"""Uses the built program as a user does, and looks at the files it leaves.
-
-    test_desktop.py PROGRAM COMMAND-LINE-PROGRAM [TEST...]
-"""
+"""Uses the built program as a user does, and looks at the files it leaves."""
 
 import json
 import os
-import pathlib
 import struct
 import subprocess
-import sys
-import tempfile
-import time
-import unittest
 
-from desktop import Desktop
+from program import COMMAND_LINE, EXAMPLES, PROGRAM, ProgramTest, desktop, main, text, user_settings
 
-PROGRAM = sys.argv.pop(1)
-COMMAND_LINE = sys.argv.pop(1)
 VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
-EXAMPLES = pathlib.Path(__file__).resolve().parents[2] / "examples"
 
 
-def text(value, width):
-    return value.encode("cp1252").ljust(width)
-
-
-def user_settings(name="Ida Lund", folder=""):
-    """The bytes of a complete user.usr."""
-    others = ["County Extension Service", "4 Court Square", "Alder Creek, XX 00000", "555-0100", "ida@extension.example"]
-    return b"".join(text(field, 50) for field in [name, *others, folder]) + b"\xff\xff"
-
-
-def wait_for_a_calm_second():
-    """The pause of the start-up never ends when it begins at second 58."""
-    while time.localtime().tm_sec >= 50:
-        time.sleep(0.2)
-
-
-class DesktopTest(unittest.TestCase):
-    def setUp(self):
-        self.temporary = tempfile.TemporaryDirectory()
-        self.addCleanup(self.temporary.cleanup)
-        self.folder = pathlib.Path(self.temporary.name)
-        self.settings = self.folder / "user.usr"
-        self.settings.write_bytes(user_settings(folder=str(self.folder)))
-
-    def program(self, *arguments, under=()):
-        wait_for_a_calm_second()
-        self.addCleanup(desktop.end)
-        desktop.open([*under, PROGRAM, "--program-dir", str(self.folder), *map(str, arguments)])
-
+class DesktopTest(ProgramTest):
     def test_a_session_with_a_center_pivot_test(self):
         new, copy = self.folder / "new.cpd", self.folder / "copy.cpd"
         self.program()
@@ -343,5 +304,4 @@ class DesktopTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    with Desktop() as desktop:
-        unittest.main(verbosity=2)
+    main()
