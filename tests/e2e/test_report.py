@@ -128,7 +128,7 @@ class ReportTest(ReportWindowTest):
         self.open_report(under=["prlimit", "--fsize=4096"])
         before = self.shown()
         for item in ["Save As...", "Save as HTML..."]:
-            for place in [self.folder / "new", "/proc/new"]:
+            for place in [self.folder / "new", "/sys/new"]:
                 with self.subTest(f"{item} {place}"):
                     desktop.choose("File", item, "Report")
                     desktop.type_into("File name:", f"{place}\n")
