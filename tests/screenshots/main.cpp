@@ -6,13 +6,17 @@
 #include "ui/AboutDialog.h"
 #include "ui/CenterPivotDataDialog.h"
 #include "ui/Desktop.h"
+#include "ui/ReportWindow.h"
 #include "ui/SoilIntakeDialog.h"
 #include "ui/SolidSetDataDialog.h"
 #include "ui/UserDataDialog.h"
+#include "ui/ViewerWindow.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTextEdit>
 #include <cstdio>
 
 // Takes a picture of every window: orvel_screenshots FOLDER.
@@ -26,6 +30,20 @@ void FillSettings(const std::string& programDirectory) {
     UserSettings settings = testing::CompleteUserSettings();
     settings.DefaultDirectory = "/home/ida/tests";
     SaveUserSettings(settings);
+}
+
+class FixedClock : public Clock {
+public:
+    DateTime Now() override { return {2026, 7, 4, 9, 5, 3}; }
+};
+
+QWidget* WindowOfName(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->objectName() == name) {
+            return window;
+        }
+    }
+    return nullptr;
 }
 
 bool Take(QWidget& window, const QString& folder, const QString& page = {}) {
@@ -50,6 +68,30 @@ bool TakePages(QWidget& window, const QString& folder) {
         }
     }
     return true;
+}
+
+// Of a report the part with marks on both sides of the average; the moment is always the same.
+bool TakeReport(ui::Desktop& desktop, const QString& folder) {
+    static FixedClock clock;
+    Platform platform = CurrentPlatform();
+    platform.clock = &clock;
+    UsePlatform(platform);
+    desktop.ShowReport();
+    QWidget* report = WindowOfName("frmReport");
+    constexpr QSize kSize(680, 620);
+    report->resize(kSize);
+    auto* text = report->findChild<QTextEdit*>();
+    text->moveCursor(QTextCursor::End);
+    text->find("Percent Timer Analysis", QTextDocument::FindBackward);
+    text->moveCursor(QTextCursor::StartOfLine);
+    QScrollBar& bar = *text->verticalScrollBar();
+    bar.setValue(bar.value() - 2 * bar.pageStep() / 3);
+    return Take(*report, folder);
+}
+
+bool TakeViewer(ui::Desktop& desktop, const QString& folder) {
+    desktop.ShowViewer(kViewCenterPivotData);
+    return Take(*WindowOfName("frmShowRTF"), folder);
 }
 
 } // namespace
@@ -79,6 +121,9 @@ int main(int argc, char** argv) {
         if (!Take(*window, arguments.at(1))) {
             return 1;
         }
+    }
+    if (!TakeReport(desktop, arguments.at(1)) || !TakeViewer(desktop, arguments.at(1))) {
+        return 1;
     }
     ui::CenterPivotDataDialog centerPivot(nullptr, desktop);
     mainWindow.OpenGivenFile(ORVEL_EXAMPLES "/solid-set-1997.ssd");

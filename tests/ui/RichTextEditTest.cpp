@@ -152,6 +152,28 @@ TEST_F(RichTextEdit, KeepsWhatItLoaded) {
     EXPECT_EQ(Document(), ReadRtf(ReadFile(folder / "a.rtf")));
 }
 
+TEST_F(RichTextEdit, LoadingShowsAWaitingCursor) {
+    PutContents(folder / "a.rtf", R"({\rtf1 text})");
+    bool isWaiting = false;
+    QObject::connect(&box, &QTextEdit::cursorPositionChanged, &box, [&] {
+        const QCursor* cursor = QApplication::overrideCursor();
+        isWaiting = isWaiting || (cursor != nullptr && cursor->shape() == Qt::WaitCursor);
+    });
+    box.Load(folder / "a.rtf");
+    EXPECT_TRUE(isWaiting);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_THROW(box.Load(folder / "none.rtf"), FileError);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(RichTextEdit, TheMarksOfParagraphsHaveNoColourOfTheirOwn) {
+    PutContents(folder / "a.rtf", R"({\rtf1{\colortbl;\red255\green0\blue0;}\fs40 a {\cf1 red\par}b})");
+    box.Load(folder / "a.rtf");
+    const QTextBlock second = box.document()->begin().next();
+    EXPECT_FALSE(second.charFormat().hasProperty(QTextFormat::ForegroundBrush));
+    EXPECT_EQ(second.charFormat().fontPointSize(), 20);
+}
+
 TEST_F(RichTextEdit, ReportsShowWholeLinesHoweverNarrowTheyAre) {
     QWidget window;
     box.setParent(&window);
