@@ -12,7 +12,7 @@ namespace orvel::ui {
 
 namespace {
 
-Qt::Alignment ToQt(Alignment alignment) {
+Qt::Alignment QtAlignment(Alignment alignment) {
     switch (alignment) {
     case Alignment::Center:
         return Qt::AlignHCenter;
@@ -25,7 +25,7 @@ Qt::Alignment ToQt(Alignment alignment) {
     }
 }
 
-Alignment FromQt(Qt::Alignment alignment) {
+Alignment AlignmentOf(Qt::Alignment alignment) {
     if (alignment.testFlag(Qt::AlignHCenter)) {
         return Alignment::Center;
     }
@@ -92,7 +92,7 @@ void Insert(QTextCursor& cursor, const RichDocument& document) {
     };
     for (const Paragraph& paragraph : document.paragraphs) {
         QTextBlockFormat block;
-        block.setAlignment(ToQt(paragraph.alignment));
+        block.setAlignment(QtAlignment(paragraph.alignment));
         if (!isFirst(paragraph)) {
             // The mark of a paragraph has no colour of its own.
             QTextCharFormat mark = cursor.charFormat();
@@ -114,7 +114,7 @@ RichDocument Extract(const QTextDocument& source, int begin, int end) {
     for (QTextBlock block = source.findBlock(begin); block.isValid() && block.position() <= end;
          block = block.next()) {
         Paragraph& paragraph = document.paragraphs.emplace_back();
-        paragraph.alignment = FromQt(block.blockFormat().alignment());
+        paragraph.alignment = AlignmentOf(block.blockFormat().alignment());
         for (auto part = block.begin(); part != block.end(); ++part) {
             const QTextFragment fragment = part.fragment();
             const int first = std::max(begin, fragment.position());
