@@ -2,44 +2,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "centerpivot/CenterPivot.h"
-#include "core/ProgramState.h"
-#include "core/RecordFiles.h"
-#include "solidset/SolidSet.h"
-#include "tests/support/CompleteUserSettings.h"
 #include "tests/support/LogicTest.h"
-#include "tests/support/TestFiles.h"
+#include "tests/support/OpenedExamples.h"
 
 #include <string>
 
 namespace orvel::testing {
 
 // Reports of the examples, told at a fixed moment by a fixed person.
-class ReportTest : public LogicTest {
+class ReportTest : public LogicTest, public OpenedExamples {
 protected:
-    ReportTest() {
-        ResetCenterPivot();
-        ResetSolidSet();
-        Program().userSettings = CompleteUserSettings();
-    }
-
-    ~ReportTest() override {
-        ResetCenterPivot();
-        ResetSolidSet();
-    }
-
     static CenterPivotTest& Pivot() { return Program().centerPivotTest; }
     static SolidSetTest& Solid() { return Program().solidSetTest; }
-
-    static void OpenPivot() {
-        Program().centerPivotFile = Example("pivot-1978.cpd");
-        Pivot() = ReadTest<CenterPivotTest>(Program().centerPivotFile);
-    }
-
-    static void OpenSolid(const std::string& name) {
-        Program().solidSetFile = Example(name);
-        Solid() = ReadTest<SolidSetTest>(Program().solidSetFile);
-    }
 
     // The warnings about single catches that an example draws.
     void ExpectWarnings(const std::string& lines) {

@@ -2,13 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/ReportWindow.h"
 
-#include "centerpivot/CenterPivot.h"
-#include "core/RecordFiles.h"
 #include "report/MemoryRichTextBox.h"
 #include "report/RtfReader.h"
-#include "solidset/SolidSet.h"
-#include "tests/support/CompleteUserSettings.h"
-#include "tests/support/TestFiles.h"
+#include "tests/support/OpenedExamples.h"
 #include "tests/ui/WidgetTest.h"
 
 #include <QApplication>
@@ -40,22 +36,15 @@ public:
     }
 };
 
-class ReportWindow : public testing::WidgetTest {
+class ReportWindow : public testing::WidgetTest, public testing::OpenedExamples {
 protected:
     ReportWindow() {
-        ResetCenterPivot();
-        ResetSolidSet();
-        Program().userSettings = testing::CompleteUserSettings();
         Platform platform = CurrentPlatform();
         platform.settingsStore = &store;
         UsePlatform(platform);
     }
 
-    ~ReportWindow() override {
-        delete window;
-        ResetCenterPivot();
-        ResetSolidSet();
-    }
+    ~ReportWindow() override { delete window; }
 
     void Open() {
         window = new ui::ReportWindow(surroundings);
@@ -69,17 +58,13 @@ protected:
         Open();
     }
 
-    void OpenPivot() {
-        Program().testKind = kCenterPivot;
-        Program().centerPivotFile = testing::Example("pivot-1978.cpd");
-        Program().centerPivotTest = ReadTest<CenterPivotTest>(Program().centerPivotFile);
+    void ShowPivot() {
+        OpenPivot();
         Open();
     }
 
-    void OpenSolid() {
-        Program().testKind = kSolidSet;
-        Program().solidSetFile = testing::Example("solid-set-triangle.ssd");
-        Program().solidSetTest = ReadTest<SolidSetTest>(Program().solidSetFile);
+    void ShowSolid() {
+        OpenSolid();
         Open();
         Said(); // the warnings about its catches
     }
@@ -162,7 +147,7 @@ TEST_F(ReportWindow, HasItsToolsInOrder) {
 }
 
 TEST_F(ReportWindow, CanBeUsedByKeyboardAndScreenReader) {
-    OpenPivot();
+    ShowPivot();
     ExpectReachable(*window);
     EXPECT_TRUE(Report().hasFocus());
     EXPECT_EQ(Report().accessibleName(), "Report");
@@ -180,7 +165,7 @@ TEST_F(ReportWindow, CanBeUsedByKeyboardAndScreenReader) {
 }
 
 TEST_F(ReportWindow, ShowsTheReportWithItsMarksAndLocked) {
-    OpenPivot();
+    ShowPivot();
     EXPECT_EQ(window->windowTitle(), "Report");
     EXPECT_EQ(Status(), "Current File: pivot-1978.cpd");
     EXPECT_TRUE(Report().IsReadOnly());
@@ -194,7 +179,7 @@ TEST_F(ReportWindow, ShowsTheReportWithItsMarksAndLocked) {
 }
 
 TEST_F(ReportWindow, ShowsASolidSetReportWithItsMarks) {
-    OpenSolid();
+    ShowSolid();
     MemoryRichTextBox expected;
     ReportBuilder(expected).BuildSolidSetReport();
     EXPECT_EQ(Status(), "Current File: solid-set-triangle.ssd");
@@ -203,7 +188,7 @@ TEST_F(ReportWindow, ShowsASolidSetReportWithItsMarks) {
 }
 
 TEST_F(ReportWindow, BoldAndItalicChangeTheWholeTextAndTheirButtons) {
-    OpenPivot();
+    ShowPivot();
     const auto isAll = [this](bool CharacterFormat::*property) {
         for (const Paragraph& paragraph : Shown().paragraphs) {
             for (const TextRun& run : paragraph.runs) {
@@ -260,7 +245,7 @@ TEST_F(ReportWindow, ItsCommandsReachTheLogic) {
 }
 
 TEST_F(ReportWindow, RefreshAndCloseChangeTheText) {
-    OpenPivot();
+    ShowPivot();
     for (const char* refresh : {"mnuRefreshReport", "Refresh"}) {
         Choose("mnuFileClose");
         EXPECT_EQ(Report().Text(), "");
@@ -271,7 +256,7 @@ TEST_F(ReportWindow, RefreshAndCloseChangeTheText) {
 }
 
 TEST_F(ReportWindow, UnlockedItTakesWhatIsTypedUntilItIsBuiltAnew) {
-    OpenPivot();
+    ShowPivot();
     ShowActive(*window);
     QTest::keyClicks(&Report(), "Typed");
     EXPECT_EQ(Report().Text().find("Typed"), std::string::npos);
