@@ -202,8 +202,19 @@ class Desktop:
         subprocess.run(["xdotool", *arguments], check=True)
 
     def _click(self, control):
-        area = self.bus.Component.get_extents(control, self.bus.CoordType.SCREEN)
+        area = self._place_that_stays(control)
         self._xdotool("mousemove", str(area.x + area.width // 2), str(area.y + area.height // 2), "click", "1")
+
+    def _place_that_stays(self, control):
+        """Where the control is, once the window manager has put its window there."""
+        places = []
+
+        def stays():
+            area = self.bus.Component.get_extents(control, self.bus.CoordType.SCREEN)
+            places.append((area.x, area.y, area.width, area.height))
+            time.sleep(0.05)
+            return len(places) > 2 and places[-1] == places[-2] == places[-3] and area
+        return self._wait(stays, "a control to stay in its place")
 
     def _wait(self, condition, what):
         end = time.monotonic() + PATIENCE
