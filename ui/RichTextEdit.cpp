@@ -194,7 +194,9 @@ void RichTextEdit::Load(const std::filesystem::path& file) {
     Insert(cursor, loaded);
     ShowDocument(std::move(fresh));
     content.reset();
-    Select(0, 0);
+    if (!document()->isEmpty()) {
+        UseFormat(textCursor().charFormat());
+    }
 }
 
 void RichTextEdit::Save(const std::filesystem::path& file) const {
