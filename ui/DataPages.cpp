@@ -43,9 +43,19 @@ protected:
     }
 };
 
+class TextLines : public QPlainTextEdit {
+protected:
+    void insertFromMimeData(const QMimeData* source) override {
+        // The toolkit can't paste from an empty clipboard.
+        if (canInsertFromMimeData(source)) {
+            QPlainTextEdit::insertFromMimeData(source);
+        }
+    }
+};
+
 QPlainTextEdit* NewTextLines() {
     constexpr int kLeastLines = 3;
-    auto* box = new QPlainTextEdit;
+    auto* box = new TextLines;
     box->setTabChangesFocus(true);
     box->setMinimumHeight(box->fontMetrics().lineSpacing() * kLeastLines + 2 * box->frameWidth());
     return box;

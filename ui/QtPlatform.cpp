@@ -111,6 +111,8 @@ QtKeySender::QtKeySender() {
 }
 
 void QtKeySender::SendCtrl(char letter) {
+    // The key may be the shortcut of the very command that sends it: it is the control's alone.
+    qApp->installEventFilter(this);
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         // The press may have been the control's end.
         if (lastControl != nullptr) {
@@ -118,6 +120,15 @@ void QtKeySender::SendCtrl(char letter) {
             QCoreApplication::sendEvent(lastControl, &event);
         }
     }
+    qApp->removeEventFilter(this);
+}
+
+bool QtKeySender::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 std::string QtSettingsStore::Get(const std::string& section, const std::string& key,

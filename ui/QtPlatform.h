@@ -39,6 +39,9 @@ public:
     QtKeySender();
     void SendCtrl(char letter) override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     QPointer<QWidget> lastControl;
 };

@@ -174,6 +174,7 @@ void RichTextEdit::SetFontName(const std::string& name) {
     QTextCursor everything(document());
     everything.select(QTextCursor::Document);
     everything.mergeCharFormat(change);
+    document()->clearUndoRedoStacks();
     caretFormat.merge(change);
     UseFormat(caretFormat);
 }
@@ -195,7 +196,7 @@ void RichTextEdit::Load(const std::filesystem::path& file) {
     ShowDocument(std::move(fresh));
     content.reset();
     if (!document()->isEmpty()) {
-        UseFormat(textCursor().charFormat());
+        UseFormat(QTextCursor(document()).charFormat());
     }
 }
 
@@ -283,6 +284,8 @@ void RichTextEdit::ChangeSelection(const QTextCharFormat& change) {
     QTextCursor cursor = textCursor();
     if (cursor.hasSelection()) {
         cursor.mergeCharFormat(change);
+        // The user undoes the user's changes.
+        document()->clearUndoRedoStacks();
     } else {
         caretFormat.merge(change);
         UseFormat(caretFormat);
@@ -337,6 +340,10 @@ bool RichTextEdit::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 void RichTextEdit::insertFromMimeData(const QMimeData* source) {
+    if (!canInsertFromMimeData(source)) {
+        // The toolkit can't paste from an empty clipboard.
+        return;
+    }
     const QByteArray rtf = RtfOf(*source);
     if (rtf.isEmpty()) {
         QTextEdit::insertFromMimeData(source);

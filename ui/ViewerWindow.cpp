@@ -13,6 +13,13 @@
 
 namespace orvel::ui {
 
+namespace {
+
+// What a window manager may draw beside a window, in pixels.
+constexpr int kFrame = 8;
+
+} // namespace
+
 ViewerWindow::ViewerWindow(QWidget* owner)
     : QDialog(owner, Qt::Window), text(new RichTextEdit(this)), logic(*this) {
     setObjectName("frmShowRTF");
@@ -32,7 +39,7 @@ ViewerWindow::ViewerWindow(QWidget* owner)
 
     constexpr QSize kStartSize(660, 560);
     constexpr int kForTitleBar = 40;
-    const QSize room = screen()->availableSize() - QSize(0, kForTitleBar);
+    const QSize room = screen()->availableSize() - QSize(2 * kFrame, kForTitleBar);
     resize(kStartSize.boundedTo(room));
 }
 
@@ -55,6 +62,11 @@ void ViewerWindow::SetCaption(const std::string& caption) {
 }
 
 void ViewerWindow::Show() {
+    if (!isVisible()) {
+        // At the side, where it covers little of what it explains.
+        const QRect room = screen()->availableGeometry();
+        move(room.right() + 1 - width() - kFrame, room.top());
+    }
     BringToFront(*this);
     text->setFocus();
 }

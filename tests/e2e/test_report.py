@@ -108,6 +108,22 @@ class ReportTest(ReportWindowTest):
                     self.assertEqual(without_its_moment(self.saved(item, name)), without_its_moment(expected))
                     (self.folder / name).unlink()
 
+    def test_a_locked_report_is_copied_from_by_keys_and_menu(self):
+        self.open_report()
+        before = self.shown()
+        for item in ["Undo", "Cut", "Copy", "Paste"]:
+            desktop.choose("Edit", item, "Report")
+        desktop.press("Report", "text")
+        desktop.keys("ctrl+z", "ctrl+x", "ctrl+c", "ctrl+v", "ctrl+a", "ctrl+c")
+        self.assertEqual(self.shown(), before)
+        desktop.press("Lock", "check box")
+        desktop.choose("Edit", "Undo", "Report")
+        self.assertEqual(len(desktop.colored_parts("Report")), 7, "the marks are not the user's to undo")
+        desktop.keys("ctrl+End")
+        desktop.choose("Edit", "Paste", "Report")
+        self.assertEqual(self.shown(), before + before)
+        self.assertEqual(len(desktop.colored_parts("Report")), 14)
+
     def test_what_was_typed_into_an_unlocked_report_is_saved_and_a_saved_file_is_opened(self):
         self.open_report()
         desktop.press("Lock", "check box")

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QClipboard>
+#include <QMimeData>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -30,6 +31,16 @@ TEST_F(DataDialog, StartsOnTheFirstBoxOfTheFirstPage) {
     EXPECT_EQ(QApplication::focusWidget(), &Box("txtBoxClientName"));
     EXPECT_EQ(Pages().currentIndex(), 0);
     EXPECT_FALSE(Editor().isVisible());
+}
+
+TEST_F(DataDialog, AnEmptyClipboardIsPastedAsNothing) {
+    QApplication::clipboard()->setMimeData(new QMimeData);
+    Pages().setCurrentIndex(4);
+    auto& comments = Get<QPlainTextEdit>("txtBoxOtherComments");
+    comments.setFocus();
+    const QString before = comments.toPlainText();
+    QTest::keyClick(&comments, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(comments.toPlainText(), before);
 }
 
 TEST_F(DataDialog, TabGoesFromBoxToBoxAndToTheButtons) {

@@ -127,6 +127,8 @@ TEST_F(DesktopProgram, TheReportIsShownOnceAndBuiltAnewWhenAskedForAgain) {
     EXPECT_EQ(WindowOfName("frmReport"), nullptr);
     desktop->ShowReport();
     EXPECT_NE(WindowOfName("frmReport"), nullptr) << "another one";
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_NE(WindowOfName("frmReport"), nullptr) << "not the closed one";
 }
 
 TEST_F(DesktopProgram, TheViewerIsOneWindowForAllTopics) {
@@ -141,7 +143,9 @@ TEST_F(DesktopProgram, TheViewerIsOneWindowForAllTopics) {
     EXPECT_EQ(viewer->windowTitle(), "Center Pivot Data - ");
     viewer->close();
     desktop->ShowViewer(kViewHelp);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_NE(WindowOfName("frmShowRTF"), nullptr);
+    EXPECT_FALSE(QApplication::quitOnLastWindowClosed());
 }
 
 TEST_F(DesktopProgram, AViewerOfAModalWindowBelongsToItAndClosesWithIt) {

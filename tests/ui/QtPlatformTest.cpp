@@ -4,14 +4,19 @@
 
 #include "tests/support/TestFiles.h"
 #include "tests/ui/WidgetTest.h"
+#include "ui/Menus.h"
+#include "ui/RichTextEdit.h"
 #include "ui/TextEdge.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -123,6 +128,37 @@ TEST_F(QtServices, AMessageBoxBelongsToTheWindowInFront) {
             EXPECT_EQ(box.parentWidget(), &window);
             box.close();
         });
+}
+
+TEST_F(QtServices, AKeyReachesTheControlAndNotTheCommandThatSendsIt) {
+    QMainWindow window;
+    auto* controls = new QWidget;
+    auto* locked = new RichTextEdit(controls);
+    auto* button = new QPushButton(controls);
+    auto* option = new QCheckBox(controls);
+    window.setCentralWidget(controls);
+    QtKeySender sender;
+    int commands = 0;
+    AddMenu(*window.menuBar(), "mnuEdit", "&Edit", {{"mnuCopy", "&Copy", QKeySequence::Copy, [&] {
+                                                         ++commands;
+                                                         sender.SendCtrl('C');
+                                                     }}});
+    locked->SetText("locked");
+    locked->SetReadOnly(true);
+    ShowActive(window);
+    for (QWidget* control : std::initializer_list<QWidget*>{button, option, locked}) {
+        control->setFocus();
+        commands = 0;
+        Find<QAction>(window, "mnuCopy").trigger();
+        EXPECT_EQ(commands, 1);
+    }
+    locked->selectAll();
+    Find<QAction>(window, "mnuCopy").trigger();
+    EXPECT_EQ(QApplication::clipboard()->text(), "locked");
+    QApplication::clipboard()->setText("");
+    QTest::keyClick(locked, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), "locked");
+    QTest::keyClick(button, Qt::Key_C, Qt::ControlModifier);
 }
 
 TEST_F(QtServices, KeysGoToTheControlThatHadTheFocusLast) {

@@ -184,6 +184,7 @@ TEST_F(QtPrinting, ThePaperIsMeasuredInTwipsFromItsCorner) {
     EXPECT_EQ(printer.DeviceCaps(DeviceCap::PhysicalOffsetX), 0);
     EXPECT_EQ(printer.DeviceCaps(DeviceCap::PhysicalOffsetY), 0);
     const int dots = printer.Device().logicalDpiX();
+    EXPECT_GE(dots, 600);
     EXPECT_EQ(printer.PixelsToTwipsX(dots), 1440);
     EXPECT_EQ(printer.PixelsToTwipsY(dots / 2), 720);
     printer.SetPaperOrientation(Orientation::Landscape);
@@ -214,6 +215,9 @@ TEST_F(QtPrinting, PrintsThePagesThatWereChosenOnly) {
     printer.Device().setFromTo(1, 1);
     PrintRichText(box);
     EXPECT_EQ(Pages(), 1);
+    printer.Device().setPageRanges({});
+    PrintRichText(box);
+    EXPECT_EQ(Pages(), 3) << "no page was named";
     printer.Device().setPrintRange(QPrinter::AllPages);
     PrintRichText(box);
     EXPECT_EQ(Pages(), 3);
@@ -273,6 +277,7 @@ TEST_F(QtPrinting, TheDialogOffersWhatItsFlagsSay) {
             EXPECT_TRUE(shown.testOption(QAbstractPrintDialog::PrintPageRange));
             EXPECT_EQ(shown.printer()->copyCount(), 2);
             EXPECT_FALSE(Find<QWidget>(shown, "pagesLineEdit").isVisible());
+            EXPECT_FALSE(Find<QWidget>(shown, "pagesRadioButton").isVisible());
             EXPECT_GT(Find<QSpinBox>(shown, "to").maximum(), 1000) << "pages";
             shown.printer()->setCopyCount(5);
             shown.reject();

@@ -146,6 +146,12 @@ TEST_F(ReportWindow, HasItsToolsInOrder) {
                             "Refresh"}));
 }
 
+TEST_F(ReportWindow, ShowsNamesAsTheyAreAndItsToolsInTheirPlace) {
+    OpenEmpty();
+    EXPECT_EQ(Find<QLabel>(*window, "sbStatusBar").textFormat(), Qt::PlainText);
+    EXPECT_FALSE(Find<QToolBar>(*window, "tbToolBar").isMovable());
+}
+
 TEST_F(ReportWindow, CanBeUsedByKeyboardAndScreenReader) {
     ShowPivot();
     ExpectReachable(*window);

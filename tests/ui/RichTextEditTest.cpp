@@ -82,6 +82,80 @@ TEST_F(RichTextEdit, ATextIsNotUndone) {
     EXPECT_EQ(box.Text(), "second");
 }
 
+TEST_F(RichTextEdit, TheUserUndoesTheUsersChangesOnly) {
+    box.SetText("low\rhigh");
+    box.Select(0, 3);
+    box.SetSelectionColor({255, 0, 0});
+    box.SetFontName("Courier New");
+    EXPECT_EQ(box.Text(), "low\rhigh") << "nobody has edited it";
+    box.Select(0, 0);
+    ShowActive(box);
+    const RichDocument before = Document();
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Document(), before);
+    QTest::keyClicks(&box, "x");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Document(), before);
+}
+
+TEST_F(RichTextEdit, AnEmptyClipboardIsPastedAsNothing) {
+    box.SetText("text");
+    ShowActive(box);
+    QApplication::clipboard()->setMimeData(new QMimeData);
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    PutOnClipboard("image/png", "no text");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "text");
+}
+
+TEST_F(RichTextEdit, APasteIsUndoneInOneStep) {
+    box.SetText("text");
+    ShowActive(box);
+    PutOnClipboard("text/rtf", R"({\rtf1 a{\b b}\par{\i c}})");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "ab\r\nctext");
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "text");
+}
+
+TEST_F(RichTextEdit, TheCaretKnowsWhereItHasGone) {
+    PutContents(folder / "a.rtf", R"({\rtf1{\b bold}\ul line})");
+    box.Load(folder / "a.rtf");
+    EXPECT_TRUE(box.IsSelectionBold()) << "as the text begins";
+    ShowActive(box);
+    QTest::keyClick(&box, Qt::Key_End);
+    EXPECT_FALSE(box.IsSelectionBold());
+    box.SetText("new");
+    EXPECT_FALSE(Document().paragraphs.at(0).runs.at(0).format.isUnderlined);
+    box.SetText("");
+    box.SetSelectionBold(true);
+    QTest::keyClicks(&box, "typed");
+    EXPECT_TRUE(Document().paragraphs.at(0).runs.at(0).format.isBold);
+    EXPECT_EQ(box.textCursor().charFormat().fontWeight(), QFont::Bold);
+}
+
+TEST_F(RichTextEdit, AParagraphIsPastedWithItsAlignmentIntoAnEmptyLineOnly) {
+    PutContents(folder / "a.rtf", R"({\rtf1\qc centred\par\pard\ql left})");
+    box.Load(folder / "a.rtf");
+    EXPECT_EQ(Document().paragraphs.at(0).alignment, Alignment::Center);
+    EXPECT_EQ(Document().paragraphs.at(1).alignment, Alignment::Left);
+    box.SetText("full line");
+    ShowActive(box);
+    PutOnClipboard("text/rtf", R"({\rtf1\qc centred })");
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "centred full line");
+    EXPECT_EQ(Document().paragraphs.at(0).alignment, Alignment::Left);
+}
+
+TEST_F(RichTextEdit, LockedItIsSelectedByTheMouse) {
+    box.SetText("some words");
+    box.SetReadOnly(true);
+    ShowActive(box);
+    QTest::mouseDClick(box.viewport(), Qt::LeftButton, {}, QPoint(12, 10));
+    EXPECT_TRUE(box.textCursor().hasSelection());
+}
+
 TEST_F(RichTextEdit, LockedItTakesNoKeyButIsCopiedFromByKeys) {
     box.SetText("one\r\ntwo");
     box.SetReadOnly(true);
@@ -213,9 +287,10 @@ TEST_F(RichTextEdit, TheWheelScrollsAndNeverZooms) {
         QWheelEvent event(QPointF(10, 10), box.viewport()->mapToGlobal(QPointF(10, 10)), {}, QPoint(0, -120),
                           Qt::NoButton, keys, Qt::NoScrollPhase, false);
         QApplication::sendEvent(box.viewport(), &event);
+        return event.isAccepted();
     };
     const QFont font = box.font();
-    turn(Qt::ControlModifier);
+    EXPECT_FALSE(turn(Qt::ControlModifier)) << "left to others";
     EXPECT_EQ(Document(), before);
     EXPECT_EQ(box.font(), font);
     turn(Qt::NoModifier);

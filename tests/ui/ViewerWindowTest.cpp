@@ -8,6 +8,7 @@
 
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 
 namespace orvel {
@@ -39,6 +40,12 @@ TEST_F(ViewerWindow, ShowsItsTopicToBeReadOnly) {
     EXPECT_EQ(Box().Text(), "Set out cups");
     EXPECT_TRUE(Box().IsReadOnly());
     EXPECT_FALSE(window->isModal());
+    EXPECT_EQ(window->windowType(), Qt::Window);
+    EXPECT_TRUE(Find<QWidget>(*window, "rtfBox").hasFocus());
+    const QRect room = window->screen()->availableGeometry();
+    EXPECT_TRUE(room.contains(window->geometry()));
+    EXPECT_LT(room.right() - window->frameGeometry().right(), 20) << "at the side";
+    EXPECT_EQ(window->frameGeometry().top(), room.top());
 }
 
 TEST_F(ViewerWindow, AnotherTopicTakesThePlaceOfTheFirst) {
