@@ -13,8 +13,10 @@ extern "C" const char* __asan_default_options() {
 }
 
 extern "C" const char* __lsan_default_suppressions() {
-    // The C library keeps the split LOCPATH that a locale was looked up in.
-    return "leak:argz_add_sep\n";
+    // The C library keeps the split LOCPATH that a locale was looked up in, and the message bus what is under
+    // way to a screen reader when the program ends.
+    return "leak:argz_add_sep\n"
+           "leak:libdbus-1.so\n";
 }
 
 // NOLINTEND(readability-identifier-naming)
