@@ -82,13 +82,17 @@ void frmReport::Form_Resize() {
     if (view.IsMinimized()) {
         return;
     }
-    if (view.Height() < kLeastHeight) {
-        view.SetHeight(kLeastHeight);
+    try {
+        if (view.Height() < kLeastHeight) {
+            view.SetHeight(kLeastHeight);
+        }
+        if (view.Width() < kLeastWidth) {
+            view.SetWidth(kLeastWidth);
+        }
+        view.SetReportSize(view.InnerWidth() - kBesideReport, view.InnerHeight() - kAboveAndBelowReport);
+    } catch (const RunTimeError&) {
+        // Trapped and ignored: another resize comes.
     }
-    if (view.Width() < kLeastWidth) {
-        view.SetWidth(kLeastWidth);
-    }
-    view.SetReportSize(view.InnerWidth() - kBesideReport, view.InnerHeight() - kAboveAndBelowReport);
 }
 
 void frmReport::Form_Unload() {

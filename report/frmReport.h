@@ -20,7 +20,7 @@ public:
     static constexpr float kLeastWidth = 9660;
     static constexpr float kLeastHeight = 4200;
 
-    // Buttons of tbToolBar that show a state, by their index.
+    // Buttons of tbToolBar that show a state, by their index from 1; gaps do not count.
     enum class ToolButton { Bold = 5, Italic = 6, Lock = 7 };
 
     // All lengths are in twips, 15 to a logical pixel.

@@ -65,7 +65,7 @@ ReportWindow::ReportWindow(ProgramWindows& windows)
 
 void ReportWindow::Load() {
     logic.Form_Load();
-    MoveOntoAScreen();
+    FitOntoAScreen();
     show();
     report->setFocus();
 }
@@ -149,6 +149,7 @@ void ReportWindow::AddToolBar() {
         QAction* action = bar->addAction(
             QIcon(QString(":/tools/%1.svg").arg(QString(item.key).toLower())), item.key, this,
             [this, key = item.key] { Run([this, key] { logic.tbToolBar_ButtonClick(key); }); });
+        tools.push_back(action);
         action->setObjectName(item.key);
         action->setToolTip(item.tip);
         if (item.shortcut != nullptr) {
@@ -160,17 +161,18 @@ void ReportWindow::AddToolBar() {
     }
 }
 
-void ReportWindow::MoveOntoAScreen() {
-    const QRect place = frameGeometry();
+void ReportWindow::FitOntoAScreen() {
+    constexpr int kToGrab = 48;
     const QList<QScreen*> screens = QGuiApplication::screens();
-    const bool isReachable = std::ranges::any_of(screens, [&](const QScreen* screen) {
-        constexpr int kToGrab = 48;
-        const QRect title(place.topLeft(), QSize(place.width(), kToGrab));
-        const QRect seen = screen->availableGeometry() & title;
+    const auto home = std::ranges::find_if(screens, [this](const QScreen* screen) {
+        const QRect seen = screen->availableGeometry() & QRect(x(), y(), width(), kToGrab);
         return seen.width() >= kToGrab && seen.height() == kToGrab;
     });
+    const bool isReachable = home != screens.end();
+    const QRect room = (isReachable ? *home : QGuiApplication::primaryScreen())->availableGeometry();
+    resize(size().boundedTo(room.size()));
     if (!isReachable) {
-        move(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+        move(room.topLeft());
     }
 }
 
@@ -182,17 +184,7 @@ void ReportWindow::SetReportSize(float width, float height) {
 }
 
 void ReportWindow::ShowPressed(frmReport::ToolButton button, bool isPressed) {
-    switch (button) {
-    case frmReport::ToolButton::Bold:
-        findChild<QAction*>("Bold")->setChecked(isPressed);
-        break;
-    case frmReport::ToolButton::Italic:
-        findChild<QAction*>("Italic")->setChecked(isPressed);
-        break;
-    case frmReport::ToolButton::Lock:
-        findChild<QAction*>("Lock")->setChecked(isPressed);
-        break;
-    }
+    tools.at(static_cast<std::size_t>(button) - 1)->setChecked(isPressed);
 }
 
 void ReportWindow::SetStatusText(const std::string& text) {

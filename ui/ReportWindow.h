@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <functional>
+#include <vector>
 
 namespace orvel::ui {
 
@@ -32,8 +33,9 @@ private:
     [[nodiscard]] std::function<void()> Event(Handler handler);
     void AddMenus();
     void AddToolBar();
-    // Keeps the window where somebody can reach it, whatever screen it was on before.
-    void MoveOntoAScreen();
+    // Keeps the window where somebody can reach it, and no larger than that screen, whatever it was on
+    // before.
+    void FitOntoAScreen();
 
     RichTextBox& ReportRTB() override { return *report; }
     void SetReportSize(float width, float height) override;
@@ -54,6 +56,7 @@ private:
 
     RichTextEdit* report;
     QLabel* status;
+    std::vector<QAction*> tools; // of the tool bar, without its gaps
     frmReport logic;
 };
 

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 #include <map>
+#include <optional>
 #include <string>
 
 namespace orvel::testing {
@@ -89,6 +90,7 @@ protected:
     float width = 12000;
     float height = 9000;
     bool isMinimized = false;
+    std::optional<ErrorNumber> resizeError;
     frmReport window{*this, surroundings};
 
 private:
@@ -121,6 +123,7 @@ private:
     }
     void SetHeight(float newHeight) override {
         surroundings.Note("height " + Text(newHeight));
+        RaiseIf(resizeError);
         height = newHeight;
     }
     [[nodiscard]] bool IsMinimized() const override { return isMinimized; }

@@ -105,6 +105,13 @@ TEST_F(FrmReport, AWindowBelowItsLeastSizeGrows) {
     EXPECT_EQ(Said(), (Lines{"report 9060 by 2800"})) << "4200 and 9660 are enough";
 }
 
+TEST_F(FrmReport, AnErrorOfResizingIsIgnored) {
+    height = 100;
+    resizeError = ErrorNumber::InvalidProcedureCall;
+    window.Form_Resize();
+    EXPECT_EQ(Said(), (Lines{"height 4200"})) << "and ends it";
+}
+
 TEST_F(FrmReport, RefreshBuildsAnewAndLocks) {
     LoadPivot();
     window.tbToolBar_ButtonClick("Lock");

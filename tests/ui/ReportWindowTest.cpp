@@ -330,9 +330,23 @@ TEST_F(ReportWindow, OutOfReachItComesToTheScreen) {
         EXPECT_EQ(window->pos(), screen.topLeft()) << left;
         delete window;
     }
+    // Too little to grab: 20 pixels of the width, 20 of the title's height.
+    for (const auto& [left, top] :
+         {std::pair{15 * (screen.right() - 20), 1500}, {1500, 15 * (screen.bottom() - 20)}}) {
+        store.values = {{"MainLeft", std::to_string(left)}, {"MainTop", std::to_string(top)}};
+        OpenEmpty();
+        EXPECT_EQ(window->pos(), screen.topLeft()) << left << ", " << top;
+        delete window;
+    }
     store.values = {{"MainLeft", "-1500"}, {"MainTop", "1500"}};
     OpenEmpty();
     EXPECT_EQ(window->pos(), QPoint(-100, 100)) << "in reach";
+}
+
+TEST_F(ReportWindow, IsNoLargerThanItsScreenWhenItOpens) {
+    store.values = {{"MainWidth", "1e9"}, {"MainHeight", "1e9"}};
+    OpenEmpty();
+    EXPECT_EQ(window->size(), QGuiApplication::primaryScreen()->availableSize());
 }
 
 TEST_F(ReportWindow, TheReportFollowsTheSizeOfTheWindow) {
@@ -345,7 +359,8 @@ TEST_F(ReportWindow, TheReportFollowsTheSizeOfTheWindow) {
         constexpr int kBeside = 33; // 500 twips
         EXPECT_EQ(report.width(), size.width() - kBeside);
         EXPECT_NEAR(report.left(), area.width() - 1 - report.right(), 1) << "in the middle";
-        EXPECT_GT(report.height(), area.height() - 20);
+        constexpr int kAboveAndBelow = 67; // 1000 twips
+        EXPECT_EQ(report.height(), size.height() - window->menuBar()->height() - kAboveAndBelow);
         EXPECT_LE(report.height(), area.height());
         EXPECT_GE(report.top(), 0);
     }
