@@ -34,6 +34,8 @@ struct ProgramState {
     std::filesystem::path solidSetFile;
     // Where user.usr, soil.dat and help.rtf are.
     std::filesystem::path programDirectory;
+    // Where the program may keep what belongs nowhere else; none where it is empty.
+    std::filesystem::path userDataFolder;
 
     // The last message of the data checks and of the report's error box, and the button that closed it.
     std::string messageText;

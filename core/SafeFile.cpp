@@ -230,11 +230,25 @@ void FlushFolder(const fs::path& folder) {
     }
 }
 
+// The last step; false, with errno set, when the system refuses the name.
+bool PutInPlace(TemporaryFile& temporary, const fs::path& path, Flush flush) {
+    if (flush == Flush::ToDisk) {
+        FlushToDisk(temporary.File().Get());
+    }
+    temporary.File().CloseChecked();
+    if (!temporary.RenameTo(path)) {
+        return false;
+    }
+    if (flush == Flush::ToDisk) {
+        FlushFolder(FolderOf(path));
+    }
+    return true;
+}
+
 void ReplaceByRename(const fs::path& path, const struct stat* old, std::string_view content, Flush flush) {
-    const fs::path folder = FolderOf(path);
     // The folder, or its sticky bit, may forbid what the file itself allows.
     const auto mayOverwrite = [old] { return old != nullptr && (errno == EACCES || errno == EPERM); };
-    TemporaryFile temporary(folder);
+    TemporaryFile temporary(FolderOf(path));
     if (!temporary.IsOpen()) {
         if (mayOverwrite()) {
             OverwriteInPlace(path, content, flush);
@@ -244,19 +258,11 @@ void ReplaceByRename(const fs::path& path, const struct stat* old, std::string_v
     }
     WriteAll(temporary.File().Get(), content);
     GiveOwnerAndPermissions(temporary.File().Get(), old);
-    if (flush == Flush::ToDisk) {
-        FlushToDisk(temporary.File().Get());
-    }
-    temporary.File().CloseChecked();
-    if (!temporary.RenameTo(path)) {
+    if (!PutInPlace(temporary, path, flush)) {
         if (!mayOverwrite()) {
             Fail("cannot replace the file");
         }
         OverwriteInPlace(path, content, flush);
-        return;
-    }
-    if (flush == Flush::ToDisk) {
-        FlushFolder(folder);
     }
 }
 
@@ -277,6 +283,21 @@ std::string ReadFile(const fs::path& path, std::size_t most) {
         FailAt(path, "cannot open");
     }
     return ReadFrom(file.Get(), most);
+}
+
+void ReplacePrivately(const fs::path& path, std::string_view content) {
+    if (path.empty()) {
+        throw FileError("cannot open for writing", ENOENT);
+    }
+    TemporaryFile temporary(FolderOf(path));
+    if (!temporary.IsOpen()) {
+        FailAt(path, "cannot create a file in the folder");
+    }
+    // A temporary file is its owner's alone.
+    WriteAll(temporary.File().Get(), content);
+    if (!PutInPlace(temporary, path, Flush::ToDisk)) {
+        Fail("cannot replace the file");
+    }
 }
 
 void ReplaceFile(const fs::path& path, std::string_view content, Flush flush) {

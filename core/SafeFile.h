@@ -28,4 +28,8 @@ enum class Flush { ToDisk, Lazy };
 // socket and a file without write permission are errors.
 void ReplaceFile(const std::filesystem::path& path, std::string_view content, Flush flush);
 
+// The same for a file of the program's own that nobody but the user is to read, whatever was there: always
+// on the disk, never in place, and a link gives way itself.
+void ReplacePrivately(const std::filesystem::path& path, std::string_view content);
+
 } // namespace orvel

@@ -48,8 +48,9 @@ std::string Formatted(const std::string& text, std::string_view mask) {
 
 } // namespace
 
-MeasurementGrid::MeasurementGrid(GridView& ofWindow, const GridKind& ofTest)
-    : view(ofWindow), kind(ofTest), cells(kind.columns.size() * kRows), currentColumn(kind.volumeColumn) {
+MeasurementGrid::MeasurementGrid(GridView& ofWindow, const GridKind& ofTest, std::function<void()> onChange)
+    : view(ofWindow), kind(ofTest), changed(std::move(onChange)), cells(kind.columns.size() * kRows),
+      currentColumn(kind.volumeColumn) {
     for (int column = 0; const GridColumn& each : kind.columns) {
         cells[CellIndex(0, column++)] = each.caption;
     }
@@ -72,6 +73,7 @@ const std::string& MeasurementGrid::Cell(int row, int column) const {
 void MeasurementGrid::SetCell(int row, int column, const std::string& text) {
     cells[CellIndex(row, column)] = text;
     view.ShowCell(row, column);
+    changed();
 }
 
 void MeasurementGrid::MakeCurrent(int row, int column) {
@@ -118,6 +120,17 @@ void MeasurementGrid::CommitEdit() {
     }
     SetCell(currentRow, currentColumn, Formatted(view.EditorText(), kind.commitMask));
     DropEdit();
+}
+
+void MeasurementGrid::ResumeEdit(const CellEdit& edit) {
+    MakeCurrent(edit.row, edit.column);
+    BeginEdit(' ');
+    if (isEditing) {
+        view.SetEditorText(edit.text);
+        view.SelectEditorText(edit.text.size(), 0);
+    } else {
+        SetCell(edit.row, edit.column, edit.text);
+    }
 }
 
 void MeasurementGrid::DropEdit() {

@@ -5,6 +5,7 @@
 #include "entry/GridView.h"
 
 #include <cstddef>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,6 +28,15 @@ struct GridKind {
     bool commitsIntoAnyColumn;
 };
 
+// A text in the editor that its cell has not taken yet.
+struct CellEdit {
+    int row = 0;
+    int column = 0;
+    std::string text;
+
+    bool operator==(const CellEdit&) const = default;
+};
+
 // The measurements of a test as a table of cell texts, one of which is edited at a time: row 0 has the
 // headers and column 0 the row numbers, rows 1 to 300 are the cups. A text that is being edited enters its
 // cell when the grid gets the focus, is scrolled or is left for another cell.
@@ -38,8 +48,9 @@ public:
     static constexpr int kFixedRows = 1;
     static constexpr int kLastRow = kRows - 1;
 
-    // Both must outlive the grid.
-    MeasurementGrid(GridView& ofWindow, const GridKind& ofTest);
+    // View and kind must outlive the grid. `onChange` is called after a cell got its text.
+    MeasurementGrid(
+        GridView& ofWindow, const GridKind& ofTest, std::function<void()> onChange = [] {});
 
     [[nodiscard]] const GridKind& Kind() const { return kind; }
 
@@ -60,6 +71,8 @@ public:
     // takes the cell's text, selected; any other character begins with "0".
     void BeginEdit(int character);
     void CommitEdit();
+    // Opens the editor as it was once; a cell that is out of sight or can't be edited takes the text.
+    void ResumeEdit(const CellEdit& edit);
 
     void gridTest_GotFocus();
     void gridTest_LeaveCell();
@@ -86,6 +99,7 @@ private:
 
     GridView& view;
     const GridKind& kind;
+    std::function<void()> changed;
     std::vector<std::string> cells; // row by row
     int currentRow = kFixedRows;
     int currentColumn;

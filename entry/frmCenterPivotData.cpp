@@ -108,7 +108,7 @@ constexpr std::array<GaugeColumn<PivotGauge>, 2> kGaugeColumns = {{
 constexpr int kDistanceColumn = 1;
 
 constexpr DataWindowKind kWindow = {
-    .entries = kEntries, .record = kCenterPivotFields, .lists = kLists, .grid = &kGrid};
+    .entries = kEntries, .record = kCenterPivotFields, .lists = kLists, .optionButtons = {}, .grid = &kGrid};
 
 } // namespace
 
@@ -121,6 +121,7 @@ void frmCenterPivotData::mnuFileSaveAs_Click() {
         const TestFileKind& kind = CurrentKind();
         const std::filesystem::path path = AskForName(kind.saveAsTitle, kind.extension, kind.filter);
         if (!path.empty() && SaveTestFileAs(path)) {
+            NoteSaved();
             ShowFileName();
         }
     } catch (const RunTimeError&) {

@@ -72,6 +72,8 @@ constexpr std::array<ComboList, 5> kLists = {{
     {"ComboOperatingTimes", kOperatingTimes},
 }};
 
+constexpr std::array<std::string_view, 2> kOptionButtons = {"optBtnSquare", "optBtnTriangle"};
+
 constexpr std::array<GridColumn, 4> kColumns = {{
     {"Sequence", 1085},
     {"X Axis", 1085},
@@ -88,8 +90,11 @@ constexpr std::array<GaugeColumn<SolidSetGauge>, 3> kGaugeColumns = {{
 constexpr int kColumnX = 1;
 constexpr int kColumnY = 2;
 
-constexpr DataWindowKind kWindow = {
-    .entries = kEntries, .record = kSolidSetFields, .lists = kLists, .grid = &kGrid};
+constexpr DataWindowKind kWindow = {.entries = kEntries,
+                                    .record = kSolidSetFields,
+                                    .lists = kLists,
+                                    .optionButtons = kOptionButtons,
+                                    .grid = &kGrid};
 
 // kept: "choosen".
 std::string Chosen(int count) {

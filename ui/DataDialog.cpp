@@ -7,6 +7,7 @@
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -21,6 +22,8 @@
 namespace orvel::ui {
 
 namespace {
+
+constexpr auto kKeepEntries = static_cast<QEvent::Type>(QEvent::User + 1);
 
 // A name that has no room is shortened in its middle; the tip has it whole.
 class FileLabel : public QLabel {
@@ -66,9 +69,14 @@ void DataDialog::Complete(const std::function<void()>& saveAs) {
     auto* layout = new QVBoxLayout(this);
     AddMenus(saveAs);
     layout->addWidget(pages);
+    notice = NewLabel("labelNotice");
+    notice->setWordWrap(true);
+    notice->hide();
+    layout->addWidget(notice);
     layout->addLayout(NewFootLine(saveAs));
     SetTabOrder();
     FilterNumericBoxes();
+    WatchEntries();
     logic->Form_Load();
     resize(kStartSize.boundedTo(screen()->availableSize()));
 }
@@ -86,6 +94,22 @@ void DataDialog::FilterNumericBoxes() {
         if (entry.rule == EntryRule::Numeric) {
             FilterKeys(FindControl<QLineEdit>(*this, entry.control), DataWindow::NumberBox_KeyPress);
         }
+    }
+}
+
+void DataDialog::WatchEntries() {
+    const auto tell = [this] { Run([this] { logic->EntryMade(); }); };
+    // As long as there are pages. The grid has no text of its own; its editor begins when it is left.
+    connect(qApp, &QApplication::focusChanged, pages, [this, tell](const QWidget* left) {
+        if (left != nullptr && left != table && isAncestorOf(left)) {
+            tell();
+        }
+    });
+    for (const QAbstractButton* button : pages->findChildren<QAbstractButton*>()) {
+        connect(button, &QAbstractButton::toggled, this, tell);
+    }
+    for (const QComboBox* list : pages->findChildren<QComboBox*>()) {
+        connect(list, &QComboBox::activated, this, tell);
     }
 }
 
@@ -152,6 +176,47 @@ void DataDialog::mousePressEvent(QMouseEvent* /*event*/) {
 void DataDialog::closeEvent(QCloseEvent* event) {
     event->ignore();
     Run([this] { logic->mnuFileClose_Click(); });
+}
+
+void DataDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous()) {
+        // When the window has its size.
+        QMetaObject::invokeMethod(
+            this, [this] { Run([this] { logic->Form_Show(); }); }, Qt::QueuedConnection);
+    }
+}
+
+void DataDialog::customEvent(QEvent* event) {
+    if (event->type() == kKeepEntries) {
+        Run([this] { logic->KeepEntries(); });
+    }
+}
+
+void DataDialog::PostKeepEntries() {
+    // Behind the toolkit's own low priority, which repaints have.
+    QCoreApplication::postEvent(this, new QEvent(kKeepEntries), Qt::LowEventPriority - 1);
+}
+
+void DataDialog::ShowNotice(const std::string& text) {
+    notice->setText(QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(text.size())));
+    notice->setVisible(!text.empty());
+}
+
+void DataDialog::ShowGridPage() {
+    for (int page = 0; page < pages->count(); ++page) {
+        if (pages->widget(page)->isAncestorOf(table)) {
+            pages->setCurrentIndex(page);
+        }
+    }
+}
+
+std::string DataDialog::TypedText(std::string_view control) const {
+    return ControlText(*this, control);
+}
+
+void DataDialog::SetTypedText(std::string_view control, const std::string& text) {
+    SetControlText(*this, control, text);
 }
 
 void DataDialog::SetList(std::string_view control, const std::vector<std::string>& entries) {

@@ -38,6 +38,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void customEvent(QEvent* event) override;
 
 private:
     // An event of the logic that both kinds have.
@@ -45,6 +47,8 @@ private:
     void AddMenus(const std::function<void()>& saveAs);
     QLayout* NewFootLine(const std::function<void()>& saveAs);
     void FilterNumericBoxes();
+    // Tells the logic of every entry that the user has finished.
+    void WatchEntries();
     void SetTabOrder();
 
     void Unload() override { accept(); }
@@ -52,6 +56,11 @@ private:
     void SetList(std::string_view control, const std::vector<std::string>& entries) override;
     [[nodiscard]] std::optional<bool> IsChecked(std::string_view control) const override;
     void SetChecked(std::string_view control, bool isChecked) override;
+    [[nodiscard]] std::string TypedText(std::string_view control) const override;
+    void SetTypedText(std::string_view control, const std::string& text) override;
+    void PostKeepEntries() override;
+    void ShowNotice(const std::string& text) override;
+    void ShowGridPage() override;
 
     void ShowCell(int row, int column) override { table->ShowCell(row, column); }
     void ShowCurrentCell(int row, int column) override { table->ShowCurrentCell(row, column); }
@@ -74,6 +83,7 @@ private:
     DataPages* pages = nullptr;
     MeasurementTable* table = nullptr;
     CellEditor* editor = nullptr;
+    QLabel* notice = nullptr;
 };
 
 } // namespace orvel::ui

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/Form.h"
 
-#include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
 #include <QComboBox>
@@ -29,7 +28,7 @@ std::string LinesText(const QPlainTextEdit& box) {
     for (const QChar lineEnd : {QChar(QChar::ParagraphSeparator), QChar(QChar::LineSeparator)}) {
         text.replace(lineEnd, "\r\n");
     }
-    return FromQt(text);
+    return text.toStdString();
 }
 
 void SetLines(QPlainTextEdit& box, std::string_view text) {
@@ -38,7 +37,7 @@ void SetLines(QPlainTextEdit& box, std::string_view text) {
         text.remove_suffix(1);
     }
     const int position = box.textCursor().position();
-    QString lines = ToQt(text);
+    QString lines = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     lines.replace("\r\n", "\n").replace('\r', '\n');
     box.setProperty(kGivenText, QByteArray(text.data(), static_cast<qsizetype>(text.size())));
     box.setProperty(kGivenDocument, QString(lines).replace('\n', QChar(QChar::ParagraphSeparator)));
@@ -52,27 +51,28 @@ void SetLines(QPlainTextEdit& box, std::string_view text) {
 
 std::string ControlText(const QWidget& window, std::string_view control) {
     if (const auto* box = FindControl<QLineEdit>(window, control)) {
-        return FromQt(box->text());
+        return box->text().toStdString();
     }
     if (const auto* lines = FindControl<QPlainTextEdit>(window, control)) {
         return LinesText(*lines);
     }
-    return FromQt(FindControl<QComboBox>(window, control)->currentText());
+    return FindControl<QComboBox>(window, control)->currentText().toStdString();
 }
 
-void SetControlText(const QWidget& window, std::string_view control, const std::string& text) {
+void SetControlText(const QWidget& window, std::string_view control, std::string_view utf8) {
+    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
     if (auto* box = FindControl<QLineEdit>(window, control)) {
         const int cursor = box->cursorPosition();
-        box->setText(ToQt(text));
+        box->setText(text);
         box->setCursorPosition(cursor);
     } else if (auto* lines = FindControl<QPlainTextEdit>(window, control)) {
-        SetLines(*lines, text);
+        SetLines(*lines, utf8);
     } else if (auto* list = FindControl<QComboBox>(window, control)) {
         // Also a text that the list lacks.
-        list->setCurrentIndex(list->findText(ToQt(text), Qt::MatchExactly | Qt::MatchCaseSensitive));
-        list->setEditText(ToQt(text));
+        list->setCurrentIndex(list->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+        list->setEditText(text);
     } else if (auto* label = FindControl<QLabel>(window, control)) {
-        label->setText(ToQt(text));
+        label->setText(text);
     }
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/CodePage.h"
 #include "core/FormView.h"
 
 #include <QDialog>
@@ -14,12 +15,12 @@
 
 namespace orvel::ui {
 
-// The text of the window's control of that name: a text box of one line or many, or a combo box. The line
-// ends of many lines are CR LF in the text, or what they were for as long as nobody edits it; half of one, at
-// the end of a cut text, is dropped.
+// The text, as UTF-8, of the window's control of that name: a text box of one line or many, or a combo box.
+// The line ends of many lines are CR LF in the text, or what they were for as long as nobody edits it; half
+// of one, at the end of a cut text, is dropped.
 [[nodiscard]] std::string ControlText(const QWidget& window, std::string_view control);
 // The same controls and labels. The cursor stays where the user types.
-void SetControlText(const QWidget& window, std::string_view control, const std::string& text);
+void SetControlText(const QWidget& window, std::string_view control, std::string_view utf8);
 
 // A form's view as far as all windows share it: controls are found by their object names. A window derives
 // from it beside its widget and passes itself.
@@ -29,11 +30,11 @@ public:
     explicit FormOf(const QWidget* ofWindow) : window(*ofWindow) {}
 
     [[nodiscard]] std::string Text(std::string_view control) const override {
-        return ControlText(window, control);
+        return FromUtf8(ControlText(window, control));
     }
 
     void SetText(std::string_view control, const std::string& text) override {
-        SetControlText(window, control, text);
+        SetControlText(window, control, ToUtf8(text));
     }
 
 private:

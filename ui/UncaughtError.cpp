@@ -4,6 +4,7 @@
 
 #include "core/Messages.h"
 #include "core/Version.h"
+#include "entry/DataWindow.h"
 
 #include <cstdlib>
 #include <string>
@@ -11,6 +12,7 @@
 namespace orvel::ui {
 
 void EndByError(const RunTimeError& error) {
+    KeepOpenEntries();
     const std::string text =
         "Run-time error '" + std::to_string(error.Number()) + "':\r\r" + error.Description();
     TellError(text, kProgramTitle);

@@ -8,7 +8,8 @@
 
 namespace orvel::ui {
 
-// Tells the user of a run-time error that no routine trapped, and ends the program with status 1.
+// Tells the user of a run-time error that no routine trapped, and ends the program with status 1. What is
+// typed into an open data window is in its recovery file then.
 [[noreturn]] void EndByError(const RunTimeError& error);
 
 // Runs an event of the logic. No error may leave it: the toolkit's event loop can't carry one.

@@ -7,8 +7,10 @@
 #include "ui/Desktop.h"
 #include "ui/Logo.h"
 #include "ui/Options.h"
+#include "ui/TextEdge.h"
 
 #include <QApplication>
+#include <QStandardPaths>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -45,5 +47,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(orvel::kProgramTitle);
     QApplication::setApplicationVersion(orvel::ProgramVersion());
     QApplication::setWindowIcon(orvel::ui::ProgramIcon());
+    orvel::Program().userDataFolder =
+        orvel::ui::PathFromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) /
+        "orvel";
     return orvel::ui::Desktop().Execute(options->file);
 }

@@ -62,13 +62,25 @@ class Desktop:
 
     def find(self, name, role=None, window=None):
         """The control of that accessible name that is shown, in the window of that title where one is given."""
-        return self._wait(lambda: self._search(name, role, window), "%s %s" % (role or "control", name))
+        return self.wait_for(lambda: self._search(name, role, window), "%s %s" % (role or "control", name))
 
     def is_there(self, name, role=None):
         return self._search(name, role) is not None
 
     def wait_until_gone(self, name, role=None):
-        self._wait(lambda: not self.is_there(name, role), "the end of " + name)
+        self.wait_for(lambda: not self.is_there(name, role), "the end of " + name)
+
+    def wait_for(self, condition, what):
+        """Until the condition is true, as long as the program runs; what it was then."""
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            found = condition()
+            if found:
+                return found
+            if self.program.poll() is not None:
+                raise AssertionError("%s: the program ended: %s" % (what, self.program.stderr.read()))
+            time.sleep(0.05)
+        raise AssertionError("waited in vain for " + what)
 
     def wait_for_text(self, name):
         """Waits for a label of that text."""
@@ -101,7 +113,7 @@ class Desktop:
             places.append(look())
             time.sleep(0.3)
             return places[-1] is not None and places[-1] == places[-2]
-        self._wait(stays, title + " to stay where it is")
+        self.wait_for(stays, title + " to stay where it is")
         return places[-1]
 
     # --- What is done ------------------------------------------------------------------------------------
@@ -113,7 +125,11 @@ class Desktop:
         """Opens a menu of the menu bar and clicks on an item."""
         self._click(self.find(menu, "menu item", window))
         self._click(self.find(item, "menu item", window))
-        self._wait(lambda: not self.is_there(item, "menu item"), "the menu to close")
+        self.wait_for(lambda: not self.is_there(item, "menu item"), "the menu to close")
+
+    def press_cell(self, row, column):
+        """Clicks on a cell of the measurement grid that is in sight; rows are counted from 1, columns from 0."""
+        self._click(self.find("Measurements", "table").get_accessible_at(row - 1, column))
 
     def select(self, name, number):
         """Chooses the entry of a combo box that is so many steps below the text it shows."""
@@ -132,7 +148,7 @@ class Desktop:
             answer = subprocess.run(["xdotool", "getwindowfocus", "getwindowname"], capture_output=True, text=True,
                                     check=False)
             return answer.stdout.strip() == title
-        self._wait(is_active, "the keys to go to " + title)
+        self.wait_for(is_active, "the keys to go to " + title)
 
     def place(self, title, left, top, width, height):
         self._xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowmove", str(left), str(top), "windowsize",
@@ -214,18 +230,7 @@ class Desktop:
             places.append((area.x, area.y, area.width, area.height))
             time.sleep(0.05)
             return len(places) > 2 and places[-1] == places[-2] == places[-3] and area
-        return self._wait(stays, "a control to stay in its place")
-
-    def _wait(self, condition, what):
-        end = time.monotonic() + PATIENCE
-        while time.monotonic() < end:
-            found = condition()
-            if found:
-                return found
-            if self.program.poll() is not None:
-                raise AssertionError("%s: the program ended: %s" % (what, self.program.stderr.read()))
-            time.sleep(0.05)
-        raise AssertionError("waited in vain for " + what)
+        return self.wait_for(stays, "a control to stay in its place")
 
     def _search(self, name, role, window=None):
         shown = self.bus.StateType.SHOWING

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/entry/DataWindowTest.h"
 
+#include "core/CodePage.h"
+
 #include <sstream>
 
 namespace orvel::testing {
@@ -21,6 +23,7 @@ void FakeDataView::SetText(std::string_view control, const std::string& text) {
         surroundings.Note("text " + std::string{control});
     }
     form.SetText(control, text);
+    typedTexts.erase(std::string{control});
     if (onChange) {
         onChange(control);
     }
@@ -47,6 +50,16 @@ void FakeDataView::SetChecked(std::string_view control, bool isChecked) {
         surroundings.Note("check " + std::string{control});
     }
     checks[std::string{control}] = isChecked;
+}
+
+std::string FakeDataView::TypedText(std::string_view control) const {
+    const auto typed = typedTexts.find(control);
+    return typed == typedTexts.end() ? ToUtf8(Text(control)) : typed->second;
+}
+
+void FakeDataView::SetTypedText(std::string_view control, const std::string& text) {
+    SetText(control, FromUtf8(text));
+    typedTexts[std::string{control}] = text;
 }
 
 void FakeDataView::ShowCell(int row, int column) {

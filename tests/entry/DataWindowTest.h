@@ -44,6 +44,10 @@ public:
     bool logsControls = false;
     int cellWidth = 90;
     std::string editor = "as it was";
+    // What a control shows that the code page lacks.
+    std::map<std::string, std::string, std::less<>> typedTexts;
+    int postedKeeps = 0;
+    Lines notices;
 
     [[nodiscard]] const std::map<std::string, std::string, std::less<>>& Texts() const { return form.texts; }
 
@@ -61,6 +65,11 @@ public:
     void SetList(std::string_view control, const std::vector<std::string>& entries) override;
     [[nodiscard]] std::optional<bool> IsChecked(std::string_view control) const override;
     void SetChecked(std::string_view control, bool isChecked) override;
+    [[nodiscard]] std::string TypedText(std::string_view control) const override;
+    void SetTypedText(std::string_view control, const std::string& text) override;
+    void PostKeepEntries() override { ++postedKeeps; }
+    void ShowNotice(const std::string& text) override { notices.push_back(text); }
+    void ShowGridPage() override { surroundings.Note("page of the grid"); }
 
     void ShowCell(int row, int column) override;
     void ShowCurrentCell(int row, int column) override;

@@ -298,6 +298,29 @@ TEST_F(FrmCenterPivotSave, ASaveAsThatCannotWriteLeavesPathAndLabel) {
     EXPECT_EQ(Main().ClientName.Trimmed(), "Ann");
 }
 
+TEST_F(FrmCenterPivotSave, ASaveAsThatWroteTakesTheRecoveryFileWithIt) {
+    Load();
+    view.Put("txtBoxClientName", "Ann");
+    KeepOpenEntries();
+    PutContents(folder / "a.cpd", "another test");
+    PutContents(folder / "a.cpd.recovery", "of that test");
+    PutContents(folder / "test.cpd.recovery-1", "what nobody wanted");
+    EXPECT_EQ(SaveAs({}), (Lines{Dialog("")}));
+    EXPECT_EQ(SaveAs(folder / "none" / "a.cpd"), (Lines{Dialog(""), kFileSaveError}));
+    EXPECT_EQ(folder.Names(), (Lines{"a.cpd", "a.cpd.recovery", "test.cpd.recovery", "test.cpd.recovery-1"}))
+        << "neither cancelled nor failed";
+    EXPECT_EQ(SaveAs(folder / "a.cpd"), (Lines{Dialog("")}));
+    EXPECT_EQ(folder.Names(), (Lines{"a.cpd", "a.cpd.recovery-1"}));
+    EXPECT_EQ(Contents(folder / "a.cpd.recovery-1"), "of that test");
+    KeepOpenEntries();
+    EXPECT_EQ(folder.Names(), (Lines{"a.cpd", "a.cpd.recovery-1"})) << "nothing was typed since";
+    view.Put("txtBoxClientName", "Bob");
+    KeepOpenEntries();
+    EXPECT_EQ(folder.Names(), (Lines{"a.cpd", "a.cpd.recovery", "a.cpd.recovery-1"}));
+    Save();
+    EXPECT_EQ(folder.Names(), (Lines{"a.cpd"}));
+}
+
 TEST_F(FrmCenterPivotSave, ASaveAsOfWhatIsNoNumberShowsTheBoxAndNoDialog) {
     Load();
     view.Put("comboSoilType", "Choose Soil Type");

@@ -155,6 +155,7 @@ TEST_F(ReportWindow, ShowsNamesAsTheyAreAndItsToolsInTheirPlace) {
 TEST_F(ReportWindow, CanBeUsedByKeyboardAndScreenReader) {
     ShowPivot();
     ExpectReachable(*window);
+    ShowActive(*window);
     EXPECT_TRUE(Report().hasFocus());
     EXPECT_EQ(Report().accessibleName(), "Report");
     QTest::keyClick(window, Qt::Key_B, Qt::ControlModifier);

@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "entry/RecoveryFile.h"
+
+#include "core/ProgramState.h"
+#include "core/RunTimeError.h"
+#include "core/SafeFile.h"
+
+#include <cstdint>
+#include <iomanip>
+#include <sstream>
+#include <system_error>
+
+namespace orvel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kExtension = ".recovery";
+// More than any window can hold; what is larger is not ours.
+constexpr std::size_t kMostBytes = std::size_t{64} << 20;
+
+// The same file by whatever way it was opened.
+fs::path FullPath(const fs::path& path) {
+    std::error_code error;
+    const fs::path full = fs::weakly_canonical(fs::absolute(path, error), error);
+    return error ? path : full;
+}
+
+// FNV-1a, 64 bits (Fowler, Noll and Vo, 1991): the same in every build.
+std::string NumberOf(const fs::path& path) {
+    std::uint64_t number = 0xCBF29CE484222325;
+    for (const char each : path.native()) {
+        number = (number ^ static_cast<unsigned char>(each)) * 0x100000001B3;
+    }
+    std::ostringstream text;
+    text << std::hex << std::setw(16) << std::setfill('0') << number;
+    return text.str();
+}
+
+fs::path Beside(fs::path testFile) {
+    return testFile += kExtension;
+}
+
+fs::path InUserFolder(const fs::path& testFile) {
+    constexpr std::size_t kMostOfName = 100; // a file name has 255 bytes at most
+    const fs::path& folder = Program().userDataFolder;
+    if (folder.empty()) {
+        return {};
+    }
+    const std::string name = testFile.filename().native().substr(0, kMostOfName);
+    return folder / "recovery" / (name + "-" + NumberOf(testFile) + kExtension);
+}
+
+fs::path Kept(const fs::path& place, int number) {
+    fs::path path = place;
+    return path += "-" + std::to_string(number);
+}
+
+// Of an empty path, too. A link, a pipe or a folder of that name is none of ours.
+bool Exists(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(fs::symlink_status(path, error));
+}
+
+void RemoveFile(const fs::path& path) {
+    if (Exists(path)) {
+        std::error_code ignored;
+        fs::remove(path, ignored);
+    }
+}
+
+} // namespace
+
+RecoveryFile::RecoveryFile(const fs::path& testFile) {
+    if (!testFile.empty()) {
+        const fs::path full = FullPath(testFile);
+        places = {Beside(full), InUserFolder(full)};
+    }
+}
+
+std::vector<std::string> RecoveryFile::Read() const {
+    std::vector<std::string> contents;
+    for (const fs::path& place : places) {
+        if (!Exists(place)) {
+            continue;
+        }
+        std::string& content = contents.emplace_back();
+        try {
+            content = ReadFile(place, kMostBytes);
+        } catch (const FileError&) { // NOLINT(bugprone-empty-catch): it counts as damaged
+        }
+    }
+    return contents;
+}
+
+void RecoveryFile::Write(std::string_view content) const {
+    const auto& [beside, usersOwn] = places;
+    try {
+        ReplacePrivately(beside, content);
+        RemoveFile(usersOwn);
+    } catch (const FileError&) {
+        if (usersOwn.empty()) {
+            throw;
+        }
+        std::error_code error;
+        fs::create_directories(usersOwn.parent_path(), error);
+        ReplacePrivately(usersOwn, content);
+    }
+}
+
+void RecoveryFile::Remove() const {
+    for (const fs::path& place : places) {
+        RemoveFile(place);
+    }
+}
+
+void RecoveryFile::SetAside() const {
+    for (const fs::path& place : places) {
+        if (!Exists(place)) {
+            continue;
+        }
+        int number = 1;
+        std::error_code error;
+        while (fs::exists(fs::symlink_status(Kept(place, number), error))) {
+            ++number;
+        }
+        fs::rename(place, Kept(place, number), error);
+    }
+}
+
+void RecoveryFile::RemoveKept() const {
+    for (const fs::path& place : places) {
+        for (int number = 1; Exists(Kept(place, number)); ++number) {
+            RemoveFile(Kept(place, number));
+        }
+    }
+}
+
+} // namespace orvel
