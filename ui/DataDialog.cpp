@@ -36,7 +36,8 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
-        setToolTip(shown == text() ? QString() : text());
+        // Tips have no plain format: a name that looks like one is no markup.
+        setToolTip(shown == text() ? QString() : "<qt>" + text().toHtmlEscaped() + "</qt>");
         QPainter painter(this);
         painter.drawText(rect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), shown);
     }

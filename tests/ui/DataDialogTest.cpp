@@ -174,7 +174,7 @@ TEST_F(DataDialog, ALongFileNameIsShortenedAndDoesNotWidenTheWindow) {
     EXPECT_EQ(label.textFormat(), Qt::PlainText);
     EXPECT_EQ(dialog->minimumSizeHint().width(), width);
     label.repaint();
-    EXPECT_EQ(label.toolTip(), label.text());
+    EXPECT_EQ(label.toolTip(), "<qt>" + label.text().toHtmlEscaped() + "</qt>") << "no markup";
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&label)->text(QAccessible::Name), label.text());
     label.setText("short.cpd");
     label.repaint();
