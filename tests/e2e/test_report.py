@@ -140,6 +140,25 @@ class ReportTest(ReportWindowTest):
         self.assertTrue(self.shown().startswith("Typed <50% {here}\n"))
         self.assertEqual([self.shown()[start:end] for _, start, end in desktop.colored_parts("Report")], marks)
 
+    def test_a_document_makes_the_program_open_nothing(self):
+        bait, document, calls = (self.folder / name for name in ["bait.png", "document.rtf", "calls"])
+        bait.write_bytes(b"bait")
+        document.write_text(
+            rf"""{{\rtf1 {{\field{{\*\fldinst INCLUDEPICTURE "{bait}" \\d}}{{\fldrslt a}}}}"""
+            rf"""{{\field{{\*\fldinst HYPERLINK "http://127.0.0.1:9/bait"}}{{\fldrslt b}}}}"""
+            rf"""{{\object\objautlink\objupdate{{\*\objdata {bait}}}{{\result c}}}}"""
+            rf"""{{\*\template {bait}}}<img src="file://{bait}">}}""", encoding="ascii")
+        self.open_report(under=["strace", "-D", "-f", "-qq", "-e", "trace=open,openat,connect", "-o", calls])
+        desktop.keys("ctrl+o")
+        desktop.type_into("File name:", f"{document}\n")
+        desktop.wait_for_text("Current RTF File: document.rtf")
+        self.assertEqual(self.shown(), f'abc<img src="file://{bait}">')
+        desktop.end()
+        made = calls.read_text(encoding="utf-8", errors="replace")
+        self.assertIn(str(document), made)
+        self.assertNotIn("bait", made)
+        self.assertEqual(set(re.findall(r"sa_family=(\w+)", made)), {"AF_UNIX"})
+
     def test_a_save_that_fails_is_told_and_the_report_stays(self):
         self.open_report(under=["prlimit", "--fsize=4096"])
         before = self.shown()
