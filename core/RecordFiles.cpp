@@ -44,6 +44,10 @@ fs::path SoilFile(const fs::path& programDirectory) {
     return programDirectory.native() + "/soil.dat";
 }
 
+bool IsThere(const fs::path& path) {
+    return KindOfFile(path) != FileKind::None;
+}
+
 // Fills blank records with the bytes that the file has for them.
 template <class Record>
 void ReadRecords(const fs::path& path, std::span<Record> records) {
@@ -56,8 +60,7 @@ void WriteRecords(const fs::path& path, std::span<const Record> records) {
     const auto bytes = std::as_bytes(records);
     std::string content(bytes.size(), '\0');
     std::memcpy(content.data(), bytes.data(), bytes.size());
-    std::error_code error;
-    if (fs::is_regular_file(path, error)) {
+    if (KindOfFile(path) == FileKind::Regular) {
         const std::string old = ReadFile(path);
         if (old.size() > content.size()) {
             content.append(old, content.size());
@@ -103,7 +106,7 @@ template void WriteTest<SolidSetTest>(const fs::path& path, const SolidSetTest& 
 UserSettings ReadUserSettings(const fs::path& programDirectory) {
     const fs::path path = SettingsFile(programDirectory);
     UserSettings settings;
-    if (FileExists(path)) {
+    if (IsThere(path)) {
         ReadRecords(path, std::span(&settings, 1));
     }
     return settings;
@@ -111,7 +114,7 @@ UserSettings ReadUserSettings(const fs::path& programDirectory) {
 
 SoilIntakeTable ReadSoilTable(const fs::path& programDirectory) {
     const fs::path path = SoilFile(programDirectory);
-    if (!FileExists(path)) {
+    if (!IsThere(path)) {
         return DefaultSoilTable();
     }
     SoilIntakeTable table;
@@ -121,7 +124,7 @@ SoilIntakeTable ReadSoilTable(const fs::path& programDirectory) {
 
 void LoadUserSettings() {
     ProgramState& program = Program();
-    if (!FileExists(SettingsFile(program.programDirectory))) {
+    if (!IsThere(SettingsFile(program.programDirectory))) {
         UserSettings fresh;
         fresh.DefaultDirectory = PathText(program.programDirectory);
         SaveUserSettings(fresh);
@@ -132,7 +135,7 @@ void LoadUserSettings() {
 
 void LoadSoilTable() {
     ProgramState& program = Program();
-    if (FileExists(SoilFile(program.programDirectory))) {
+    if (IsThere(SoilFile(program.programDirectory))) {
         program.soilIntakeTable = ReadSoilTable(program.programDirectory);
     } else {
         FillDefaultSoilTable();

@@ -443,6 +443,15 @@ TEST_F(RecordFilesTest, PassesTheFailureToUseTheProgramDirectory) {
     ExpectRunTimeError(ErrorNumber::PathFileAccessError, [] { LoadSoilTable(); });
 }
 
+TEST_F(RecordFilesTest, WhatIsOutOfReachIsNotTakenForMissing) {
+    PutContents(settingsFile, "x");
+    PutContents(soilFile, "x");
+    const testing::AsOrdinaryUser user(folder.Path());
+    fs::permissions(folder.Path(), fs::perms::none);
+    ExpectRunTimeError(ErrorNumber::PermissionDenied, [this] { (void)ReadUserSettings(folder.Path()); });
+    ExpectRunTimeError(ErrorNumber::PermissionDenied, [this] { (void)ReadSoilTable(folder.Path()); });
+}
+
 TEST_F(RecordFilesTest, PassesTheFailureToWriteSettings) {
     PutContents(settingsFile, std::string(352, 'x'));
     const testing::AsOrdinaryUser user(folder.Path());

@@ -17,12 +17,10 @@ namespace {
 
 using testing::Contents;
 using testing::ExpectRunTimeError;
+using testing::kFileSaveError;
 using testing::Lines;
 using testing::PutContents;
 using testing::TemporaryFolder;
-
-constexpr const char* kFileSaveError =
-    "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
 
 // The main window as it stands after start-up, with a complete user.usr in the program directory, which is
 // the default directory too.

@@ -257,7 +257,4 @@ protected:
     Window window{view, surroundings};
 };
 
-inline constexpr const char* kFileSaveError =
-    "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
-
 } // namespace orvel::testing

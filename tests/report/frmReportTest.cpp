@@ -6,9 +6,6 @@ namespace orvel::testing {
 
 namespace {
 
-constexpr const char* kFileSaveError =
-    "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
-
 TEST_F(FrmReport, LoadingReadsTheGeometryThenBuildsThenLocks) {
     OpenPivot();
     window.Form_Load();

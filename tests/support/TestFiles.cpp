@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <unistd.h>
 #include <vector>
@@ -15,8 +14,6 @@ namespace orvel::testing {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr unsigned kNobody = 65534;
 
 // Line ends made visible, so that a difference in them can be seen.
 std::string Visible(std::string_view line) {
@@ -66,15 +63,22 @@ std::vector<std::string> TemporaryFolder::Names() const {
     return names;
 }
 
-AsOrdinaryUser::AsOrdinaryUser(const fs::path& folder) {
+void GiveToOrdinaryUser(const fs::path& folder) {
     if (::geteuid() != 0) {
         return;
     }
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        EXPECT_EQ(::lchown(entry.path().c_str(), kNobody, kNobody), 0);
+        EXPECT_EQ(::lchown(entry.path().c_str(), kOrdinaryUser, kOrdinaryUser), 0);
     }
-    EXPECT_EQ(::lchown(folder.c_str(), kNobody, kNobody), 0);
-    EXPECT_EQ(::seteuid(kNobody), 0);
+    EXPECT_EQ(::lchown(folder.c_str(), kOrdinaryUser, kOrdinaryUser), 0);
+}
+
+AsOrdinaryUser::AsOrdinaryUser(const fs::path& folder) {
+    if (::geteuid() != 0) {
+        return;
+    }
+    GiveToOrdinaryUser(folder);
+    EXPECT_EQ(::seteuid(kOrdinaryUser), 0);
     hasSwitched = true;
 }
 
@@ -97,7 +101,9 @@ std::string Contents(const fs::path& path) {
     if (!file) {
         ADD_FAILURE() << "cannot open " << path;
     }
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream contents;
+    contents << file.rdbuf();
+    return contents.str();
 }
 
 void PutContents(const fs::path& path, std::string_view contents) {

@@ -19,6 +19,10 @@ namespace orvel::testing {
 
 using Lines = std::vector<std::string>;
 
+// The line of the box that a failed save shows.
+inline constexpr const char* kFileSaveError =
+    "box [File Save Error] Error in saving file. Please check drives and disk space. (Ok, Critical)";
+
 // The surroundings of a window's logic. What the logic does to them stands in one log, in order; what they
 // answer is planned before. They are strict: an answer that was not planned, or not fetched, and a line that
 // the test did not take fail it.

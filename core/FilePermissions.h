@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <sys/stat.h>
+
+// Who may read and write a new file, which nobody but its owner can before. Both raise FileError.
+namespace orvel {
+
+// As the system gives them to any new file.
+void GivePermissionsOfNewFile(int newFile);
+
+// Those of the file that it replaces: owner, group, permission bits and access list. Only root may give a
+// file away; whoever else writes another's file becomes its owner. Where the group can't be kept, its members
+// and all others get what both were allowed: nobody can read a file then who could not before.
+void GivePermissionsOf(const std::filesystem::path& old, const struct stat& oldStatus, int newFile);
+
+} // namespace orvel

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/TemporaryFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orvel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::array<std::string_view, 8> kNames = {
+    ".orvel-save-1", ".orvel-save-2", ".orvel-save-3", ".orvel-save-4",
+    ".orvel-save-5", ".orvel-save-6", ".orvel-save-7", ".orvel-save-8",
+};
+
+constexpr mode_t kOwnerOnly = 0600;
+
+bool MayBeOurs(const struct stat& file) {
+    const uid_t user = ::geteuid();
+    return S_ISREG(file.st_mode) && file.st_nlink == 1 && (user == 0 || file.st_uid == user);
+}
+
+void RemoveIfLeftBehind(const fs::path& path) {
+    const Descriptor file = Open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+
+    struct stat opened {};
+    struct stat named {};
+
+    // The name is looked at behind the lock: before that, a save could have ended and another one begun.
+    if (file.IsOpen() && ::fstat(file.Get(), &opened) == 0 && MayBeOurs(opened) &&
+        ::flock(file.Get(), LOCK_EX | LOCK_NB) == 0 && ::lstat(path.c_str(), &named) == 0 &&
+        named.st_dev == opened.st_dev && named.st_ino == opened.st_ino) {
+        ::unlink(path.c_str());
+    }
+}
+
+// Another program that tidies up can come between a file's creation and its lock.
+bool IsTakenAway(const Descriptor& file) {
+    struct stat status {};
+    return (::flock(file.Get(), LOCK_EX | LOCK_NB) == -1 && errno == EWOULDBLOCK) ||
+           (::fstat(file.Get(), &status) == 0 && status.st_nlink == 0);
+}
+
+} // namespace
+
+TemporaryFile::TemporaryFile(const fs::path& folder) {
+    for (const std::string_view each : kNames) {
+        const fs::path path = folder / each;
+        RemoveIfLeftBehind(path);
+        if (!IsOpen() && !Create(path) && errno != EEXIST) {
+            return;
+        }
+    }
+    if (!IsOpen()) {
+        std::string pattern = (folder / ".orvel-XXXXXX").native();
+        file = Descriptor(::mkostemp(pattern.data(), O_CLOEXEC));
+        name = pattern;
+    }
+}
+
+TemporaryFile::~TemporaryFile() {
+    if (IsOpen()) {
+        ::unlink(name.c_str());
+    }
+}
+
+bool TemporaryFile::IsNameOfOne(const fs::path& path) {
+    return std::ranges::find(kNames, path.filename().native()) != kNames.end();
+}
+
+bool TemporaryFile::TakeName(const fs::path& path) {
+    // Not the file itself: its lock must last until the name has changed, else it looks like one left behind.
+    file.Twin().CloseChecked();
+    if (::rename(name.c_str(), path.c_str()) == -1) {
+        return false;
+    }
+    file = Descriptor();
+    return true;
+}
+
+bool TemporaryFile::Create(const fs::path& path) {
+    Descriptor created = Open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnerOnly);
+    if (!created.IsOpen()) {
+        return false;
+    }
+    if (IsTakenAway(created)) {
+        errno = EEXIST;
+        return false;
+    }
+    file = std::move(created);
+    name = path;
+    return true;
+}
+
+} // namespace orvel

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "core/Descriptor.h"
+
+#include <filesystem>
+#include <string>
+
+namespace orvel {
+
+// A new file of a folder that is to take another file's name when it is complete. It is removed at the end of
+// its scope unless it has.
+//
+// A folder has few names for them, ".orvel-save-1" to ".orvel-save-8", one for each save that is under way at
+// the same time; should they not suffice, any other ".orvel-" and six characters. Who writes one holds its
+// lock (flock), so that one without is what a killed program left: whatever is saved next in that folder
+// removes it. A name that is taken for another reason stays: the file of somebody else, a folder, a link, a
+// file of more than one name, one on a file system without locks. No failure of tidying up is one of the
+// save.
+//
+// Nobody but its owner can read it, until it is given other permissions (core/FilePermissions).
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::filesystem::path& folder);
+    ~TemporaryFile();
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    // Whether a file is never to be saved under that name, since it would be taken for one of these.
+    [[nodiscard]] static bool IsNameOfOne(const std::filesystem::path& path);
+
+    // False, with errno set, when the folder takes no file.
+    [[nodiscard]] bool IsOpen() const { return file.IsOpen(); }
+
+    [[nodiscard]] int Get() const { return file.Get(); }
+
+    // Closes it and gives it the name, or refuses with errno set. Raises FileError when what was written may
+    // not be in the file.
+    [[nodiscard]] bool TakeName(const std::filesystem::path& path);
+
+private:
+    [[nodiscard]] bool Create(const std::filesystem::path& path);
+
+    std::filesystem::path name; // empty for none
+    Descriptor file;
+};
+
+} // namespace orvel

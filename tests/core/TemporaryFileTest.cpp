@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/TemporaryFile.h"
+
+#include "core/SafeFile.h"
+#include "tests/support/LogicTest.h"
+#include "tests/support/TestFiles.h"
+
+#include <fcntl.h>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <vector>
+
+namespace orvel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using testing::Contents;
+using testing::ExpectRunTimeError;
+using testing::PutContents;
+using testing::TemporaryFolder;
+
+using Names = std::vector<std::string>;
+
+class TemporaryFiles : public ::testing::Test {
+protected:
+    // Saves, which must leave just these files.
+    void ExpectLeftBySave(Names names) {
+        ReplaceFile(folder / "file", "new", Flush::Lazy);
+        names.emplace_back("file");
+        std::ranges::sort(names);
+        EXPECT_EQ(folder.Names(), names);
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(TemporaryFiles, WhatAKilledProgramLeftIsRemovedByTheNextSave) {
+    for (const char* name : {".orvel-save-1", ".orvel-save-2", ".orvel-save-5", ".orvel-save-8"}) {
+        PutContents(folder / name, "half of a tes");
+    }
+    ExpectLeftBySave({});
+}
+
+TEST_F(TemporaryFiles, EachSaveUnderWayHasOneOfItsOwn) {
+    std::vector<std::unique_ptr<TemporaryFile>> files;
+    for (int i = 0; i < 10; ++i) {
+        files.push_back(std::make_unique<TemporaryFile>(folder.Path()));
+        ASSERT_TRUE(files.back()->IsOpen());
+    }
+    Names names = folder.Names();
+    EXPECT_EQ(names.size(), 10U);
+    ExpectLeftBySave(names);
+    std::erase(names, ".orvel-save-3");
+    files.erase(files.begin() + 2);
+    EXPECT_EQ(folder.Names().size(), 10U) << "the file, too";
+    ExpectLeftBySave(names);
+    files.clear();
+    EXPECT_EQ(folder.Names(), Names{"file"});
+}
+
+TEST_F(TemporaryFiles, OneKeepsItsLockUntilItHasItsName) {
+    TemporaryFile file(folder.Path());
+    ASSERT_TRUE(file.TakeName(folder / "taken"));
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(folder.Names(), Names{"taken"});
+    TemporaryFile another(folder.Path());
+    ASSERT_FALSE(another.TakeName(folder / "none/taken"));
+    ExpectLeftBySave({".orvel-save-1", "taken"});
+}
+
+TEST_F(TemporaryFiles, OthersOfTheNameAreLeftAlone) {
+    fs::create_directory(folder / ".orvel-save-1");
+    fs::create_symlink("precious", folder / ".orvel-save-2");
+    PutContents(folder / "precious", "x");
+    PutContents(folder / ".orvel-save-3", "x");
+    fs::create_hard_link(folder / ".orvel-save-3", folder / "second name");
+    ASSERT_EQ(::mkfifo((folder / ".orvel-save-4").c_str(), 0600), 0);
+    PutContents(folder / ".orvel-save-5", "x");
+    PutContents(folder / ".orvel-save-9", "x");
+    PutContents(folder / ".orvel-save-10", "x");
+    PutContents(folder / ".orvel-abcdef", "x");
+    const Names names = folder.Names();
+    const int busy = ::open((folder / ".orvel-save-5").c_str(), O_RDONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(busy, LOCK_EX), 0);
+    ExpectLeftBySave(names);
+    ::close(busy);
+}
+
+// Only root can set the scene; to anybody else the file is one of their own.
+TEST_F(TemporaryFiles, ThatOfAnotherUserIsLeftAlone) {
+    PutContents(folder / ".orvel-save-1", "x");
+    fs::permissions(folder / ".orvel-save-1", fs::perms::all);
+    const testing::AsOrdinaryUser user(folder.Path());
+    PutContents(folder / ".orvel-save-2", "x");
+    if (::getuid() == 0) {
+        ASSERT_EQ(::seteuid(0), 0);
+        ASSERT_EQ(::chown((folder / ".orvel-save-1").c_str(), 4241, 4242), 0);
+        ASSERT_EQ(::seteuid(testing::kOrdinaryUser), 0);
+        ExpectLeftBySave({".orvel-save-1"});
+    } else {
+        ExpectLeftBySave({});
+    }
+}
+
+TEST_F(TemporaryFiles, NoFileIsSavedUnderTheirNames) {
+    fs::create_symlink(".orvel-save-8", folder / "link");
+    for (const char* name : {".orvel-save-1", "link"}) {
+        ExpectRunTimeError(ErrorNumber::PathFileAccessError,
+                           [&] { ReplaceFile(folder / name, "new", Flush::Lazy); });
+    }
+    EXPECT_EQ(folder.Names(), Names{"link"});
+}
+
+} // namespace
+
+} // namespace orvel
