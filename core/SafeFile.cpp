@@ -95,6 +95,7 @@ void OverwriteInPlace(const fs::path& path, std::string_view content, Flush flus
         if (flush == Flush::ToDisk) {
             FlushToDisk(file.Get());
         }
+        file.Twin().CloseChecked();
     };
     try {
         write(content);
