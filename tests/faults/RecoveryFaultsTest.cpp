@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "tests/entry/DataWindowTest.h"
+#include "tests/faults/Tracer.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <string>
+#include <sys/stat.h>
+
+// The recovery file is written while the user types, whatever goes wrong then.
+namespace orvel::testing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using FaultKind = Fault::Kind;
+
+constexpr std::array kErrors = {ENOSPC, EIO, EACCES, EXDEV};
+
+class RecoveryFaults : public DataWindowTest<frmCenterPivotData> {
+protected:
+    RecoveryFaults() {
+        Main() = ReadTest<CenterPivotTest>(Example("pivot-1978.cpd"));
+        view.logsCells = false;
+        PutContents(File(), test);
+    }
+
+    // Types a reading that is not in the file yet; the text says whether the user was told of a failure.
+    [[nodiscard]] TracedAction Keeping() {
+        return {.prepare = [this] { PutCell(7, kVolume, "123"); },
+                .act = [this] { window.KeepEntries(); },
+                .report = [this] { return view.notices.empty() ? "kept" : "told"; }};
+    }
+
+    [[nodiscard]] fs::path RecoveryPath() const { return folder / "test.cpd.recovery"; }
+
+    void SetUpFolder(bool hasOld) {
+        for (const fs::path& each : {folder.Path(), user.Path()}) {
+            for (const auto& entry : fs::directory_iterator(each)) {
+                fs::remove_all(entry);
+            }
+        }
+        PutContents(File(), test);
+        if (hasOld) {
+            PutContents(RecoveryPath(), old);
+        }
+        GiveToOrdinaryUser(folder.Path());
+        GiveToOrdinaryUser(user.Path());
+    }
+
+    // What the recovery files hold: "old", "new" or "none".
+    [[nodiscard]] std::string Found() const {
+        const std::vector<std::string> contents = RecoveryFile(File()).Read();
+        for (const std::string& content : contents) {
+            const auto entries = ReadRecoveryText(content);
+            if (entries && entries->state.cells[6][1] == "123") {
+                return "new";
+            }
+        }
+        return contents.empty() ? "none" : contents.front() == old ? "old" : "damaged";
+    }
+
+    [[nodiscard]] int Temporaries() const {
+        int count = 0;
+        for (const auto& entry : fs::directory_iterator(folder.Path())) {
+            count += entry.path().filename().native().starts_with(".orvel-") ? 1 : 0;
+        }
+        return count;
+    }
+
+    // Nobody but the user reads what is being written.
+    void ExpectPrivate() const {
+        for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
+            struct stat status {};
+            const bool isOurs = ::stat(entry.path().c_str(), &status) == 0 && entry.is_regular_file() &&
+                                entry.path() != File() && entry.path() != RecoveryPath();
+            EXPECT_FALSE(isOurs && (status.st_mode & 077) != 0) << entry.path();
+        }
+    }
+
+    void Try(bool hasOld, const Fault& fault) {
+        SetUpFolder(hasOld);
+        const TracedRun run = RunTraced(Keeping(), fault);
+        ++trials;
+        EXPECT_EQ(Contents(File()), test) << "the test itself";
+        const std::string found = Found();
+        if (run.wasKilled) {
+            EXPECT_TRUE(found == "new" || found == (hasOld ? "old" : "none")) << found;
+            EXPECT_LE(Temporaries(), 1);
+            EXPECT_EQ(RunTraced(Keeping(), {}).report, "kept");
+            EXPECT_EQ(Found(), "new");
+        } else if (run.report == "kept") {
+            EXPECT_EQ(found, "new");
+        } else {
+            EXPECT_EQ(run.report, "told");
+            EXPECT_EQ(fault.kind, FaultKind::Error);
+            EXPECT_TRUE(Program().userDataFolder.empty()) << "there is another place";
+            EXPECT_NE(found, "damaged");
+        }
+        EXPECT_EQ(Temporaries(), 0);
+    }
+
+    void TryAll(bool hasOld) {
+        SetUpFolder(hasOld);
+        const TracedRun whole = RunTraced(Keeping(), {}, [this] { ExpectPrivate(); });
+        EXPECT_EQ(whole.report, "kept");
+        EXPECT_EQ(Found(), "new");
+        for (std::size_t call = 0; call < whole.calls.size() && !HasFailure(); ++call) {
+            SCOPED_TRACE("call " + std::to_string(call) + ", " + whole.calls[call]);
+            if (ORVEL_IS_SANITIZED) { // which makes a fork slow
+                Try(hasOld,
+                    {.kind = FaultKind::Error, .call = call, .error = kErrors.at(call % kErrors.size())});
+                continue;
+            }
+            for (const int error : kErrors) {
+                Try(hasOld, {.kind = FaultKind::Error, .call = call, .error = error});
+            }
+            if (CanBeShort(whole.calls[call])) {
+                Try(hasOld, {.kind = FaultKind::Short, .call = call});
+            }
+            Try(hasOld, {.kind = FaultKind::KillBefore, .call = call});
+            Try(hasOld, {.kind = FaultKind::KillAfter, .call = call});
+        }
+        std::cout << "recovery files written with a fault: " << trials << "\n";
+    }
+
+    const std::string test = "the test file";
+    const std::string old = "the recovery file before";
+    TemporaryFolder user;
+    int trials = 0;
+};
+
+TEST_F(RecoveryFaults, BesideTheTest) {
+    Load();
+    TryAll(false);
+    TryAll(true);
+}
+
+TEST_F(RecoveryFaults, InTheUsersFolderWhereItFailsBesideTheTest) {
+    Program().userDataFolder = user.Path();
+    Load();
+    TryAll(true);
+}
+
+TEST_F(RecoveryFaults, WhatFailsWhileItIsRemovedCostsNothing) {
+    Load();
+    const auto save = [this](const Fault& fault) {
+        SetUpFolder(true);
+        return RunTraced({.prepare =
+                              [this] {
+                                  Program().userDataFolder = user.Path();
+                                  PutCell(7, kVolume, "123");
+                              },
+                          .act = [this] { window.mnuFileSave_Click(); },
+                          .report = [this] { return Said().empty() ? "saved" : "told"; }},
+                         fault);
+    };
+    const TracedRun whole = save({});
+    const auto last =
+        static_cast<std::size_t>(std::ranges::find(whole.calls, "rename") - whole.calls.begin());
+    ASSERT_LT(last, whole.calls.size());
+    for (std::size_t call = last + 1; call < whole.calls.size(); ++call) {
+        SCOPED_TRACE("call " + std::to_string(call) + ", " + whole.calls[call]);
+        for (const int error : kErrors) {
+            (void)save({.kind = FaultKind::Error, .call = call, .error = error});
+            EXPECT_EQ(ReadTest<CenterPivotTest>(File()).Gauges[7].Volume, 123.0F);
+        }
+    }
+}
+
+} // namespace
+
+} // namespace orvel::testing
