@@ -40,14 +40,31 @@ struct NamedCall {
 };
 
 constexpr std::array kNames = std::to_array<NamedCall>({
-    {SYS_access, "access"},       {SYS_close, "close"},           {SYS_dup, "dup"},
-    {SYS_faccessat, "faccessat"}, {SYS_faccessat2, "faccessat2"}, {SYS_fchmod, "fchmod"},
-    {SYS_fchown, "fchown"},       {SYS_fcntl, "fcntl"},           {SYS_flock, "flock"},
-    {SYS_fstat, "fstat"},         {SYS_fsync, "fsync"},           {SYS_ftruncate, "ftruncate"},
-    {SYS_lseek, "lseek"},         {SYS_lstat, "lstat"},           {SYS_newfstatat, "newfstatat"},
-    {SYS_open, "open"},           {SYS_openat, "openat"},         {SYS_read, "read"},
-    {SYS_readlink, "readlink"},   {SYS_rename, "rename"},         {SYS_stat, "stat"},
-    {SYS_statx, "statx"},         {SYS_unlink, "unlink"},         {SYS_write, "write"},
+    {SYS_access, "access"},
+    {SYS_close, "close"},
+    {SYS_dup, "dup"},
+    {SYS_faccessat, "faccessat"},
+    {SYS_faccessat2, "faccessat2"},
+    {SYS_fchmod, "fchmod"},
+    {SYS_fchown, "fchown"},
+    {SYS_fcntl, "fcntl"},
+    {SYS_flock, "flock"},
+    {SYS_fstat, "fstat"},
+    {SYS_fsync, "fsync"},
+    {SYS_getdents64, "getdents64"},
+    {SYS_ftruncate, "ftruncate"},
+    {SYS_lseek, "lseek"},
+    {SYS_lstat, "lstat"},
+    {SYS_newfstatat, "newfstatat"},
+    {SYS_open, "open"},
+    {SYS_openat, "openat"},
+    {SYS_read, "read"},
+    {SYS_readlink, "readlink"},
+    {SYS_rename, "rename"},
+    {SYS_stat, "stat"},
+    {SYS_statx, "statx"},
+    {SYS_unlink, "unlink"},
+    {SYS_write, "write"},
 });
 
 // Memory, and what the system never refuses.
@@ -212,11 +229,20 @@ private:
         }
     }
 
+    [[nodiscard]] Fault::Kind FaultOfNextCall() const {
+        const std::size_t next = run.calls.size();
+        const bool isBehindShort =
+            fault.kind == Fault::Kind::Short && fault.error != 0 && next == fault.call + 1;
+        if (isBehindShort) {
+            return Fault::Kind::Error;
+        }
+        return next == fault.call ? fault.kind : Fault::Kind::None;
+    }
+
     void HandleCall(CallNumber call) {
-        const bool isFaulty = run.calls.size() == fault.call;
+        const Fault::Kind kind = FaultOfNextCall();
         run.calls.push_back(NameOf(call));
         Look();
-        const Fault::Kind kind = isFaulty ? fault.kind : Fault::Kind::None;
         switch (kind) {
         case Fault::Kind::Error:
             ChangeRegisters([](user_regs_struct& registers) { registers.orig_rax = ~0ULL; });

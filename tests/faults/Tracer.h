@@ -16,14 +16,14 @@ struct Fault {
     enum class Kind {
         None,
         Error,      // it is not made and says that it failed
-        Short,      // it reads or writes half of what it should
+        Short,      // it reads or writes half of what it should; the next one fails where an error is given
         KillBefore, // the process is killed instead of it
         KillAfter,  // the process is killed when it has been made
     };
 
     Kind kind = Kind::None;
     std::size_t call = 0; // which one, from 0
-    int error = 0;        // errno, for Error
+    int error = 0;        // errno
 };
 
 // The three steps of a run. All happen in the process of its own; what they change in memory is lost with it.
