@@ -80,9 +80,12 @@ TEST_F(MainWindowFaults, ExportSummaryOfASolidSetTest) {
 TEST_F(MainWindowFaults, StartUp) {
     const std::string box =
         "box [ORVEL] The program can't keep its settings in " + folder.Path().native() + ": cannot ";
+    SavedFile settings = OldRecord("user.usr", sizeof(UserSettings));
+    SavedFile soils = OldRecord("soil.dat", kSoilRows * sizeof(SoilIntakeRow));
+    settings.isUnchanged = true;
+    soils.isUnchanged = true;
     ExpectSafe({.folder = folder.Path(),
-                .files = {OldRecord("user.usr", sizeof(UserSettings)),
-                          OldRecord("soil.dat", kSoilRows * sizeof(SoilIntakeRow))},
+                .files = {settings, soils},
                 .save = [this] { window.Form_Load(); },
                 .said = [this] { return Said(); },
                 .failures = {{box, "run-time error %"}}});

@@ -50,12 +50,13 @@ void ExpectNoMoreReaders(const Permissions& actual, const Permissions& old) {
     EXPECT_TRUE(!actual.Has(S_IRGRP) || (isSameGroup ? old.Has(S_IRGRP) : old.Has(S_IROTH)));
 }
 
-// For the owner and another user; the file's group may do nothing.
+// For the owner and a user by name; the file's group may do nothing. A namespace knows no other user's
+// number.
 struct AccessList {
     posix_acl_xattr_header header = {POSIX_ACL_XATTR_VERSION};
     std::array<posix_acl_xattr_entry, 5> entries = {{
         {ACL_USER_OBJ, ACL_READ | ACL_WRITE, kNobody},
-        {ACL_USER, ACL_READ | ACL_WRITE, 4241},
+        {ACL_USER, ACL_READ | ACL_WRITE, ::geteuid()},
         {ACL_GROUP_OBJ, 0, kNobody},
         {ACL_MASK, ACL_READ | ACL_WRITE, kNobody},
         {ACL_OTHER, 0, kNobody},

@@ -237,6 +237,7 @@ private:
         for (const SavedFile& file : saving.files) {
             const std::string& content = newContents.at(file.name);
             EXPECT_FALSE(content.empty());
+            EXPECT_EQ(content == file.old, file.isUnchanged && scene != Scene::New);
             if (file.record != 0 && scene != Scene::New) {
                 ASSERT_EQ(content.size(), file.old.size());
                 EXPECT_EQ(content.substr(file.record), file.old.substr(file.record));

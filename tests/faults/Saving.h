@@ -20,6 +20,8 @@ struct SavedFile {
     std::string old; // what it holds before
     // What lies behind so many bytes stays; 0 where the file is new as a whole.
     std::size_t record = 0;
+    // The save finds nothing to change where it holds something already.
+    bool isUnchanged = false;
 };
 
 // The file of a record, longer than that.
