@@ -10,6 +10,19 @@ target_compile_options(orvel_own_code INTERFACE
   # g++ 12 finds overlaps in joined strings, in the standard library's own code.
   $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local -Wno-restrict>)
 
+# Programs that are hard to take over: their code and what they load have no fixed address, what the loader has
+# filled in is read-only before main, a damaged stack ends them. Checked functions of the C library need an
+# optimised build.
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+if(NOT ORVEL_SANITIZE)
+  target_compile_options(orvel_own_code INTERFACE -fstack-protector-strong -fstack-clash-protection
+    $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection>)
+  target_link_options(orvel_own_code INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)
+  string(APPEND CMAKE_CXX_FLAGS_RELEASE " -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
+endif()
+
 if(ORVEL_SANITIZE)
   target_compile_options(orvel_own_code INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
