@@ -72,7 +72,8 @@ std::string CenterPivotListingText() {
     text += ListingFields(AsBytes(test), kCenterPivotFields, kLabels);
     text += RuleLine();
     text += ListingRow({"Cup", "Footage", "Volume"});
-    for (int i = 1; i <= LastFilledEntry(test.Gauges); ++i) {
+    const int last = LastFilledEntry(test.Gauges);
+    for (int i = 1; i <= last; ++i) {
         const PivotGauge& gauge = test.Gauges[i];
         text += ListingRow({FormatMask(static_cast<double>(i), "#00"), FormatMask(gauge.Footage, "#####"),
                             FormatMask(gauge.Volume, "####")});

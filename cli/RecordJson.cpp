@@ -262,7 +262,8 @@ Json DumpTest(const Test& test) {
     Json json = {{"kind", Shape<Test>::kKind}};
     json.update(DumpFields(AsBytes(test), Shape<Test>::kFields));
     Json gauges = Json::array();
-    for (int i = 1; i <= LastFilledEntry(test.Gauges); ++i) {
+    const int last = LastFilledEntry(test.Gauges);
+    for (int i = 1; i <= last; ++i) {
         gauges.push_back(DumpFields(AsBytes(test.Gauges[i]), Shape<Test>::kGaugeFields));
     }
     json["Gauges"] = std::move(gauges);

@@ -60,7 +60,8 @@ std::string SolidSetListingText() {
     text += ListingFields(AsBytes(test), kSolidSetFields, kLabels);
     text += RuleLine();
     text += ListingRow({"Cup", "X Axis", "Y Axis", "Volume"});
-    for (int i = 1; i <= LastFilledEntry(test.Gauges); ++i) {
+    const int last = LastFilledEntry(test.Gauges);
+    for (int i = 1; i <= last; ++i) {
         const SolidSetGauge& gauge = test.Gauges[i];
         text += ListingRow({FormatMask(static_cast<double>(i), "#00"), FormatMask(gauge.XAxis, "##"),
                             FormatMask(gauge.YAxis, "##"), FormatMask(gauge.Volume, "####")});

@@ -4,6 +4,7 @@
 
 #include "core/Unicode.h"
 #include "tests/support/LogicTest.h"
+#include "tests/support/SoundDocument.h"
 #include "tests/support/TestFiles.h"
 
 #include <algorithm>
@@ -19,6 +20,8 @@ namespace orvel {
 
 namespace {
 
+using testing::IsSound;
+
 class RtfReaderBadInput : public testing::LogicTest {
 protected:
     static std::string Text(std::string_view bytes) { return Utf8Of(PlainText(ReadRtf(bytes))); }
@@ -32,25 +35,6 @@ protected:
         }
         EXPECT_GE(samples.size(), 15U);
         return samples;
-    }
-
-    // Whether a document is what the model promises.
-    static bool IsSound(const RichDocument& document) {
-        const auto isSound = [](char32_t each) {
-            return (each >= U' ' || each == U'\t') && each <= 0x10FFFF && (each < 0xD800 || each > 0xDFFF);
-        };
-        for (const Paragraph& paragraph : document.paragraphs) {
-            const TextRun* last = nullptr;
-            for (const TextRun& run : paragraph.runs) {
-                const bool isNew = last == nullptr || last->format != run.format;
-                if (!isNew || run.text.empty() || run.format.halfPoints <= 0 ||
-                    !std::ranges::all_of(run.text, isSound)) {
-                    return false;
-                }
-                last = &run;
-            }
-        }
-        return !document.paragraphs.empty();
     }
 
     // Whether the first bytes of a file give the beginning of its text. The last two characters may differ: a
