@@ -165,9 +165,7 @@ void TryMask(Float value, std::string_view mask, double precision) {
     Require(written != 0 || !text.starts_with('-'), "zero has no sign");
     Require(text.ends_with('%') == isPercent, "percent is shown");
     const bool isPointShown = text.find(CurrentNumberLocale().decimalSeparator) != std::string::npos;
-    Require(isPointShown == (point != std::string_view::npos) ||
-                CurrentNumberLocale().groupSeparator == '\0' || mask.find(',') != std::string_view::npos,
-            "the point is shown if the mask has one");
+    Require(isPointShown == (point != std::string_view::npos), "the point is shown if the mask has one");
 }
 
 } // namespace
