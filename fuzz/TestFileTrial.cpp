@@ -80,6 +80,29 @@ void RequireSameRuns(const ColorRunTable& left, const ColorRunTable& right) {
             "a report that is built again has the same marks");
 }
 
+// The measurements up to the last that holds anything.
+std::size_t FilledEntries(std::string_view record, std::span<const Field> fields) {
+    const auto gauges = std::ranges::find(fields, FieldKind::Gauges, &Field::kind);
+    Require(gauges != fields.end(), "a record has measurements");
+    const std::string_view bytes = record.substr(gauges->offset, gauges->width);
+    const std::size_t last = bytes.find_last_not_of('\0');
+    constexpr std::size_t kEntries = 301;
+    return last == std::string_view::npos ? 0 : last / (bytes.size() / kEntries);
+}
+
+// At the end of a listing stands a line for each measurement, with its number.
+void RequireCupLines(std::string_view listing, std::size_t cups) {
+    const std::vector<std::string> lines = Lines(listing);
+    Require(lines.size() > cups + 2 && lines.back() == Rule(), "a listing ends in a rule");
+    const std::size_t head = lines.size() - cups - 2;
+    Require(Trim(lines[head]).starts_with("Cup "), "measurements have a heading");
+    for (std::size_t cup = 1; cup <= cups; ++cup) {
+        constexpr std::size_t kColumns = 8;
+        const std::string number = (cup < 10 ? "0" : "") + std::to_string(cup);
+        Require(Trim(lines[head + cup].substr(0, kColumns)) == number, "measurements are numbered");
+    }
+}
+
 void TryRichText(const MemoryRichTextBox& box, const ColorRunTable& runs) {
     const std::string text = box.Text();
     const RichDocument document = box.Document();
@@ -167,8 +190,7 @@ void TestFileTrial::TryListing() {
     RequireOnly(error, {ErrorNumber::Overflow}, "a listing");
     Require(tried.record() == record, "a listing only reads");
     if (!error) {
-        Require(text.ends_with(RuleLine()), "a listing ends in a rule");
-        (void)ToUtf8(text);
+        RequireCupLines(text, FilledEntries(record, tried.fields));
     }
 }
 
