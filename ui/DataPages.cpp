@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/DataPages.h"
 
+#include "ui/Form.h"
 #include "ui/UncaughtError.h"
 
 #include <QCheckBox>
@@ -13,7 +14,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -70,20 +70,6 @@ QLineEdit* NewTextLine(std::size_t mostCharacters) {
         box->setMaximumWidth(kShortWidth);
     }
     return box;
-}
-
-// Pasted lines become one, with a blank between them.
-void KeepOneLine(QLineEdit& box) {
-    QObject::connect(&box, &QLineEdit::textEdited, &box, [&box](const QString& text) {
-        static const QRegularExpression lineEnd(R"(\r\n|[\r\n\x{2028}\x{2029}])");
-        QString line = text;
-        line.replace(lineEnd, " ");
-        if (line != text) {
-            const int cursor = box.cursorPosition();
-            box.setText(line);
-            box.setCursorPosition(cursor);
-        }
-    });
 }
 
 bool IsButton(std::string_view control) {

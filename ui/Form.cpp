@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <algorithm>
 
 namespace orvel::ui {
@@ -83,10 +84,24 @@ QLabel* NewLabel(const char* name) {
     return label;
 }
 
+void KeepOneLine(QLineEdit& box) {
+    QObject::connect(&box, &QLineEdit::textEdited, &box, [&box](const QString& text) {
+        static const QRegularExpression lineEnd(R"(\r\n|[\r\n\x{2028}\x{2029}])");
+        QString line = text;
+        line.replace(lineEnd, " ");
+        if (line != text) {
+            const int cursor = box.cursorPosition();
+            box.setText(line);
+            box.setCursorPosition(cursor);
+        }
+    });
+}
+
 QLineEdit* NewTextBox(const std::string& name, const QString& accessibleName) {
     auto* box = new QLineEdit;
     box->setObjectName(QString::fromStdString(name));
     box->setAccessibleName(accessibleName);
+    KeepOneLine(*box);
     return box;
 }
 

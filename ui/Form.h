@@ -52,6 +52,9 @@ template <class Control>
 [[nodiscard]] QLabel* NewLabel(const char* name);
 [[nodiscard]] QLineEdit* NewTextBox(const std::string& name, const QString& accessibleName);
 
+// Lines that are pasted into the box become one, with a blank between them; NewTextBox sees to it itself.
+void KeepOneLine(QLineEdit& box);
+
 // What the entry windows end with: "Save" (cmdBtnSave, the default button) runs `save`, "Cancel"
 // (cmdBtnCancel) rejects the dialog.
 [[nodiscard]] QLayout* NewSaveAndCancel(QDialog& dialog, const std::function<void()>& save);

@@ -8,6 +8,8 @@
 #include "tests/support/TestFiles.h"
 #include "tests/ui/WidgetTest.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QPushButton>
 #include <QTest>
 #include <map>
@@ -69,6 +71,16 @@ TEST_F(UserDataDialog, SavesWhatIsTyped) {
     QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(Contents(folder / "user.usr").substr(0, 6), "Bj\xF8rn ");
+}
+
+TEST_F(UserDataDialog, PastedLinesBecomeOne) {
+    ui::UserDataDialog dialog(nullptr);
+    ShowActive(dialog);
+    QApplication::clipboard()->setText("Ida\r\nLund\n");
+    auto& name = Find<QLineEdit>(dialog, "txtBoxName");
+    name.selectAll();
+    QTest::keyClick(&name, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(name.text(), "Ida Lund ");
 }
 
 TEST_F(UserDataDialog, TitleBarAndEscapeCancel) {
