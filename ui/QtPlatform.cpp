@@ -10,11 +10,18 @@
 #include <QDateTime>
 #include <QFileDialog>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QThread>
+#include <algorithm>
+#include <memory>
 
 namespace orvel::ui {
 
@@ -64,6 +71,31 @@ QString WithLineBreaks(QString text) {
     return text.replace("\r\n", "\n").replace('\r', '\n');
 }
 
+// A text that has no room on the screen scrolls: else it would push the buttons out of sight.
+void LetLongTextScroll(QMessageBox& box) {
+    auto* text = box.findChild<QLabel*>("qt_msgbox_label");
+    const QSize room = box.screen()->availableSize() * 2 / 3;
+    auto wrapped = std::make_unique<QLabel>(text->text());
+    wrapped->setTextFormat(Qt::PlainText);
+    wrapped->setWordWrap(true);
+    wrapped->setAlignment(Qt::AlignTop);
+    const int width = std::min(text->sizeHint().width(), room.width());
+    const int height = wrapped->heightForWidth(width);
+    // One word may be wider.
+    if (wrapped->minimumSizeHint().width() <= room.width() && height <= room.height()) {
+        return;
+    }
+    auto* area = new QScrollArea;
+    area->setWidget(wrapped.release());
+    area->setWidgetResizable(true);
+    area->setAccessibleName(box.windowTitle());
+    area->setMinimumSize(
+        QSize(width + area->verticalScrollBar()->sizeHint().width() + 2 * area->frameWidth(), height)
+            .boundedTo(room));
+    text->hide();
+    const std::unique_ptr<QLayoutItem> place(box.layout()->replaceWidget(text, area));
+}
+
 QSettings Store() {
     return {QSettings::NativeFormat, QSettings::UserScope, kProgramTitle, kProgramTitle};
 }
@@ -78,6 +110,7 @@ Reply QtMessageBox::Show(const Message& message) {
     QMessageBox box(IconOf(message.icon), ToQt(message.title), WithLineBreaks(ToQt(message.text)),
                     ButtonsOf(message.buttons), WindowInFront());
     box.setTextFormat(Qt::PlainText);
+    LetLongTextScroll(box);
     return ReplyOf(box.exec());
 }
 

@@ -17,6 +17,8 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 
@@ -79,6 +81,50 @@ TEST_F(QtServices, AMessageBoxAnswersWithItsButton) {
             });
         EXPECT_EQ(reply, each.reply);
     }
+}
+
+TEST_F(QtServices, AMessageBoxLetsATextScrollThatHasNoRoomOnTheScreen) {
+    std::string warnings;
+    for (int gauge = 1; gauge <= 300; ++gauge) {
+        warnings += "The Value For Gauge " + std::to_string(gauge) + " May be Low (<50% of Average).\r\n";
+    }
+    QtMessageBox service;
+    for (const std::string& text :
+         {warnings, std::string(10'000, '1'), warnings + std::string(10'000, '1')}) {
+        WhileModal(
+            [&] {
+                service.Show({text, "Data Warnings"});
+            },
+            [&](QWidget& window) {
+                const auto& box = dynamic_cast<QMessageBox&>(window);
+                const QRect screen = box.screen()->availableGeometry();
+                EXPECT_TRUE(screen.contains(box.frameGeometry()));
+                const QWidget& ok = *box.button(QMessageBox::Ok);
+                EXPECT_TRUE(box.rect().contains(ok.geometry()));
+                const auto* area = box.findChild<QScrollArea*>();
+                ASSERT_NE(area, nullptr);
+                const auto& label = dynamic_cast<QLabel&>(*area->widget());
+                EXPECT_EQ(label.text(), box.text());
+                EXPECT_EQ(label.textFormat(), Qt::PlainText);
+                EXPECT_FALSE(box.findChild<QLabel*>("qt_msgbox_label")->isVisible());
+                EXPECT_GE(label.width(),
+                          label.fontMetrics().boundingRect(label.rect(), 0, box.text()).width());
+                QTest::keyClick(&window, Qt::Key_Return);
+            });
+    }
+}
+
+TEST_F(QtServices, AMessageBoxWrapsALongSentence) {
+    const std::string text = "There is no folder " + std::string(40, 'a') + " " + std::string(300, ' ') + ".";
+    WhileModal(
+        [&] {
+            QtMessageBox().Show({text, "Open File"});
+        },
+        [](QWidget& window) {
+            EXPECT_EQ(window.findChild<QScrollArea*>(), nullptr);
+            EXPECT_TRUE(window.findChild<QLabel*>("qt_msgbox_label")->isVisible());
+            QTest::keyClick(&window, Qt::Key_Return);
+        });
 }
 
 TEST_F(QtServices, AMessageBoxShowsItsIcon) {
