@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/monkey/DataPromises.h"
 
+#include "core/CodePage.h"
 #include "tests/monkey/Windows.h"
 #include "ui/Form.h"
 
@@ -90,7 +91,7 @@ std::string BrokenByLimit(const QWidget& window, const Limit& limit) {
     if (window.findChild<QWidget*>(limit.control) == nullptr) {
         return {};
     }
-    const std::size_t length = ui::ControlText(window, limit.control).size();
+    const std::size_t length = FromUtf8(ui::ControlText(window, limit.control)).size();
     return length <= limit.characters ? ""
                                       : limit.control + (" has " + std::to_string(length)) + " characters";
 }

@@ -4,7 +4,7 @@
 
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
-#include "tests/support/TestFiles.h"
+#include "core/SafeFile.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -50,6 +50,11 @@ std::array<std::int64_t, 4> VersionOf(const fs::path& file) {
             status.st_mtim.tv_nsec};
 }
 
+// Those come and go.
+bool IsRecovery(const fs::path& file) {
+    return file.extension().native().starts_with(".recovery");
+}
+
 // Whether `now` is the record with what `before` has behind it.
 bool IsSaved(std::string_view now, std::string_view before, std::string_view record) {
     const std::string_view tail = before.size() > record.size() ? before.substr(record.size()) : "";
@@ -63,7 +68,7 @@ FilePromises::FilePromises(fs::path ofTests, fs::path ofProgram)
     for (const fs::path& folder : {tests, program}) {
         for (const auto& entry : fs::directory_iterator(folder)) {
             if (entry.is_regular_file()) {
-                known[entry.path()] = {VersionOf(entry.path()), testing::Contents(entry.path())};
+                known[entry.path()] = {VersionOf(entry.path()), ReadFile(entry.path())};
             }
         }
     }
@@ -71,7 +76,7 @@ FilePromises::FilePromises(fs::path ofTests, fs::path ofProgram)
 
 std::string FilePromises::Broken() {
     for (const auto& [file, content] : known) {
-        if (!fs::exists(file)) {
+        if (!fs::exists(file) && !IsRecovery(file)) {
             return "the file " + file.filename().native() + " is missing";
         }
     }
@@ -99,7 +104,7 @@ std::string FilePromises::BrokenBy(const fs::path& file) {
     if (version == old.version) {
         return {};
     }
-    std::string now = testing::Contents(file);
+    std::string now = ReadFile(file);
     const std::vector<std::string_view> records = RecordsFor(file);
     const bool isWhole = records.empty() || std::ranges::any_of(records, [&](std::string_view record) {
                              return IsSaved(now, old.content, record);

@@ -128,6 +128,7 @@ qsizetype LineEnds(const QString& text) {
 }
 
 void Hands::Take(QWidget& toUse) {
+    ++taken;
     window = &toUse;
     if (QApplication::activePopupWidget() == nullptr && (!toUse.isActiveWindow() || toUse.isMinimized())) {
         toUse.setWindowState(toUse.windowState() & ~Qt::WindowMinimized);
@@ -165,13 +166,16 @@ void Hands::ClickSomewhere() {
     const QPoint place = PlaceSomewhere(button == Qt::LeftButton    ? "click"
                                         : button == Qt::RightButton ? "right click"
                                                                     : "middle click");
-    QTest::mouseClick(Target(), button, modifiers, place);
+    Send([&] { QTest::mouseClick(Target(), button, modifiers, place); });
 }
 
 void Hands::DoubleClickSomewhere() {
     const Qt::MouseButton button = dice.IsIn100(90) ? Qt::LeftButton : Qt::RightButton;
     const QPoint place = PlaceSomewhere("double click");
-    QTest::mouseDClick(Target(), button, {}, place);
+    Send([&] { QTest::mouseClick(Target(), button, {}, place); });
+    // Soon enough for a second click.
+    QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+    Send([&] { QTest::mouseClick(Target(), button, {}, place); });
 }
 
 void Hands::Click(const QWidget& control, Qt::MouseButton button) {
@@ -184,23 +188,30 @@ void Hands::ClickAt(const QWidget& control, const QPoint& place, Qt::MouseButton
         return;
     }
     Note("click", &control);
-    QTest::mouseClick(target, button, {}, Inside(*target, control.mapTo(control.window(), place)));
+    const QPoint inWindow = Inside(*target, control.mapTo(control.window(), place));
+    Send([&] { QTest::mouseClick(target, button, {}, inWindow); });
 }
 
 void Hands::Drag() {
     const QPoint begin = PlaceSomewhere("drag from");
     const QPoint end = PlaceSomewhere("drag to");
     const int level = QThread::currentThread()->loopLevel();
-    QTest::mousePress(Target(), Qt::LeftButton, {}, begin);
+    Send([&] { QTest::mousePress(Target(), Qt::LeftButton, {}, begin); });
     constexpr int kMoves = 4;
     dragLevel = level;
-    for (int move = 1; move <= kMoves && dragLevel == level && Target() != nullptr; ++move) {
-        QTest::mouseMove(Target(), Inside(*Target(), begin + (end - begin) * move / kMoves));
+    for (int move = 1; move <= kMoves && dragLevel == level; ++move) {
+        Send([&] { QTest::mouseMove(Target(), Inside(*Target(), begin + (end - begin) * move / kMoves)); });
     }
     if (std::exchange(dragLevel, -1) == level) {
-        // The window may have gone, but the button is still down.
-        QWindow* target = Target() == nullptr ? UsableWindows().front()->windowHandle() : Target();
-        QTest::mouseRelease(target, Qt::LeftButton, {}, Inside(*target, end));
+        Send([&] { QTest::mouseRelease(Target(), Qt::LeftButton, {}, Inside(*Target(), end)); });
+    }
+}
+
+void Hands::LetGo() {
+    dragLevel = -1;
+    const std::vector<QWidget*> usable = UsableWindows();
+    if (QTestPrivate::qtestMouseButtons.testFlag(Qt::LeftButton) && !usable.empty()) {
+        QTest::mouseRelease(usable.front()->windowHandle(), Qt::LeftButton, {}, QPoint(1, 1));
     }
 }
 
@@ -224,7 +235,7 @@ void Hands::TurnWheel() {
     const Qt::KeyboardModifiers modifiers = dice.IsIn100(20) ? Qt::ControlModifier : Qt::NoModifier;
     QWheelEvent event(place, Target()->mapToGlobal(place), {}, angle, Qt::NoButton, modifiers,
                       Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(Target(), &event);
+    Send([&] { QCoreApplication::sendEvent(Target(), &event); });
 }
 
 void Hands::RememberBox() {
@@ -240,22 +251,18 @@ void Hands::PressKey() {
         // Held down.
         Note("hold " + QKeySequence(stroke.key).toString().toStdString());
         constexpr int kRepeats = 5;
-        for (int i = 0; i < kRepeats && Target() != nullptr; ++i) {
-            QTest::simulateEvent(Target(), true, stroke.key, stroke.modifiers, {}, i > 0);
+        for (int i = 0; i < kRepeats; ++i) {
+            Send([&] { QTest::simulateEvent(Target(), true, stroke.key, stroke.modifiers, {}, i > 0); });
         }
-        if (Target() != nullptr) {
-            QTest::simulateEvent(Target(), false, stroke.key, stroke.modifiers, {}, false);
-        }
+        Send([&] { QTest::simulateEvent(Target(), false, stroke.key, stroke.modifiers, {}, false); });
         return;
     }
     Press(stroke.key, stroke.modifiers);
 }
 
 void Hands::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    if (QWindow* target = Target()) {
-        Note("press " + QKeySequence(key | modifiers).toString().toStdString());
-        QTest::keyClick(target, key, modifiers);
-    }
+    Note("press " + QKeySequence(key | modifiers).toString().toStdString());
+    Send([&] { QTest::keyClick(Target(), key, modifiers); });
 }
 
 void Hands::TypeText() {
@@ -265,34 +272,25 @@ void Hands::TypeText() {
 
 void Hands::Type(const QString& text) {
     Note("type \"" + text.toStdString() + "\"");
-    SendText(text);
-}
-
-void Hands::SendText(const QString& text) {
-    // A character may have ended the window.
-    const QPointer<QWidget> begunIn = QApplication::focusWidget();
     for (const QChar character : text) {
-        if (Target() == nullptr || QApplication::focusWidget() != begunIn) {
-            return;
-        }
-        QTest::sendKeyEvent(QTest::Click, Target(), KeyOf(character), QString(character), Qt::NoModifier);
+        Send([&] {
+            QTest::sendKeyEvent(QTest::Click, Target(), KeyOf(character), QString(character), Qt::NoModifier);
+        });
     }
 }
 
 void Hands::Compose() {
-    QWidget* control = QApplication::focusWidget();
+    const QPointer<QWidget> control = QApplication::focusWidget();
     if (control == nullptr || !control->testAttribute(Qt::WA_InputMethodEnabled)) {
         return;
     }
     const QString text = TextToType(dice);
     Note("compose \"" + text.toStdString() + "\" in", control);
-    QInputMethodEvent preedit("...", {});
-    QCoreApplication::sendEvent(control, &preedit);
-    const QPointer<QWidget> alive = control;
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    if (alive != nullptr) {
-        QCoreApplication::sendEvent(control, &event);
+    QInputMethodEvent begun("...", {});
+    QInputMethodEvent finished;
+    finished.setCommitString(text);
+    for (QInputMethodEvent* event : {&begun, &finished}) {
+        Send([&] { QCoreApplication::sendEvent(control, event); });
     }
 }
 
@@ -319,11 +317,11 @@ void Hands::Choose(QAction& command) {
     const int way = dice.Below(3);
     Note("choose " + command.objectName().toStdString());
     if (way == 0 && !command.shortcut().isEmpty()) {
-        QTest::keySequence(Target(), command.shortcut());
+        Send([&] { QTest::keySequence(Target(), command.shortcut()); });
     } else if (way == 1) {
-        QTest::keyClick(Target(), LetterOf(*menu->menuAction()), Qt::AltModifier);
-        if (QWidget* popup = QApplication::activePopupWidget(); popup == menu) {
-            QTest::keyClick(popup->windowHandle(), LetterOf(command));
+        Send([&] { QTest::keyClick(Target(), LetterOf(*menu->menuAction()), Qt::AltModifier); });
+        if (QApplication::activePopupWidget() == menu) {
+            Send([&] { QTest::keyClick(menu->windowHandle(), LetterOf(command)); });
         }
     } else {
         ClickAt(*bar, bar->actionGeometry(menu->menuAction()).center());
@@ -337,26 +335,26 @@ void Hands::Resize() {
     const QSize screen = window->screen()->availableSize();
     const QSize size(dice.Between(1, screen.width() * 5 / 4), dice.Between(1, screen.height() * 5 / 4));
     Note(QString("resize to %1x%2").arg(size.width()).arg(size.height()).toStdString());
-    window->resize(size);
+    Send([&] { window->resize(size); });
 }
 
 void Hands::Move() {
     const QSize screen = window->screen()->availableSize();
     const QPoint place(dice.Between(-screen.width() / 2, screen.width()), dice.Between(0, screen.height()));
     Note("move" + Describe(place).toStdString());
-    window->move(place);
+    Send([&] { window->move(place); });
 }
 
 void Hands::MinimizeOrMaximize() {
     const auto state = dice.OneOf(std::array{Qt::WindowMinimized, Qt::WindowMaximized, Qt::WindowNoState});
     Note("set the state " + std::to_string(static_cast<int>(state)));
-    window->setWindowState(state);
+    Send([&] { window->setWindowState(state); });
 }
 
 void Hands::Close() {
     Note("close by the title bar");
     // Not the widget, which a modal window would not protect.
-    Target()->close();
+    Send([&] { Target()->close(); });
 }
 
 } // namespace orvel::monkey

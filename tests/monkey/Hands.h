@@ -14,6 +14,8 @@
 
 namespace orvel::monkey {
 
+struct Interrupted {};
+
 // What a user's hands can do to a window. Events go the way that those of a real keyboard and mouse go, so
 // that modal windows block them and menus catch them. Each action is noted before it is done. An action may
 // end whichever window it meets, and may return only when a modal window has been closed.
@@ -47,6 +49,9 @@ public:
     // By its shortcut, by mouse, or by Alt and the underlined letters.
     void Choose(QAction& command);
 
+    // The mouse's button, if an interrupted drag has left it pressed.
+    void LetGo();
+
     // A drag has begun that waits for the button to be let go.
     [[nodiscard]] bool IsDragging() const;
     void Drop();
@@ -69,11 +74,22 @@ private:
     QPoint PlaceSomewhere(const char* action);
     // What the events are sent to.
     [[nodiscard]] QWindow* Target() const;
-    void SendText(const QString& text);
+    template <class Event>
+    void Send(Event event) {
+        const int before = taken;
+        if (Target() == nullptr) {
+            throw Interrupted{};
+        }
+        event();
+        if (taken != before) {
+            throw Interrupted{};
+        }
+    }
 
     Dice& dice;
     Progress& progress;
     QPointer<QWidget> window;
+    int taken = 0; // how often a window was
     Typed typed;
     int dragLevel = -1;
 };

@@ -77,6 +77,12 @@ DateTime TickingClock::Now() {
     return {2026, 7, 4, 9, looks / kLooksInASecond / kSeconds % 60, looks / kLooksInASecond % kSeconds};
 }
 
+fs::path FencedFileDialogs::Open(const FileDialog& dialog) {
+    // What lies behind a link is outside.
+    const fs::path path = dialogs.Open(dialog);
+    return fs::is_symlink(path) ? fs::path{} : Fenced(path);
+}
+
 fs::path FencedFileDialogs::Fenced(const fs::path& path) const {
     const std::string inside = fence.native() + "/";
     return path.lexically_normal().native().starts_with(inside) ? path : fs::path{};

@@ -45,7 +45,7 @@ public:
     FencedFileDialogs(FileDialogService& forDialogs, std::filesystem::path ofFiles)
         : dialogs(forDialogs), fence(std::move(ofFiles)) {}
 
-    std::filesystem::path Open(const FileDialog& dialog) override { return Fenced(dialogs.Open(dialog)); }
+    std::filesystem::path Open(const FileDialog& dialog) override;
 
     std::filesystem::path Save(const FileDialog& dialog) override { return Fenced(dialogs.Save(dialog)); }
 

@@ -20,9 +20,11 @@ namespace {
 QString complaint;
 
 void NoteComplaint(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
-    // Not of the program: a platform without a screen can't raise windows.
-    const bool isOfPlatform = message.startsWith("This plugin does not support");
-    if (type != QtDebugMsg && type != QtInfoMsg && !isOfPlatform && complaint.isEmpty()) {
+    // Not of the program: a platform without a screen can't raise windows, and the toolkit's file dialog
+    // looks for a name that has a NUL.
+    const bool isOfToolkit = message.startsWith("This plugin does not support") ||
+                             message.startsWith("Broken filename passed to function");
+    if (type != QtDebugMsg && type != QtInfoMsg && !isOfToolkit && complaint.isEmpty()) {
         complaint = message;
     }
 }
@@ -67,6 +69,8 @@ void Session::timerEvent(QTimerEvent* /*event*/) {
 
 void Session::Step() {
     const int outer = std::exchange(loopOfAction, QThread::currentThread()->loopLevel());
+    // What the first of them post is handled, too.
+    QCoreApplication::processEvents();
     QCoreApplication::processEvents();
     CheckPromises();
     timer.start(0, this);
@@ -77,17 +81,23 @@ void Session::Step() {
 
 void Session::Act() {
     constexpr int kPatience = 300;
-    if (progress.steps < lastStep) {
+    Hands& hands = monkey.Fingers();
+    const bool isLeaving = progress.steps == lastStep;
+    if (!isLeaving) {
         ++progress.steps;
-        if (monkey.Fingers().IsDragging()) {
-            monkey.Fingers().Drop();
+    } else if (++stepsToLeave > kPatience) {
+        Report("the program can't be left");
+    }
+    try {
+        if (hands.IsDragging()) {
+            hands.Drop();
+        } else if (isLeaving) {
+            monkey.Leave();
         } else {
             monkey.Act();
         }
-    } else if (++stepsToLeave > kPatience) {
-        Report("the program can't be left");
-    } else {
-        monkey.Leave();
+    } catch (const Interrupted&) {
+        hands.LetGo();
     }
 }
 
@@ -98,7 +108,8 @@ void Session::CheckPromises() {
     if (!complaint.isEmpty()) {
         Report(complaint.toStdString());
     }
-    for (const std::string& broken : {files.Broken(), BrokenByWindows(monkey.Fingers().LastTyped())}) {
+    for (const std::string& broken : {files.Broken(), recovery.Broken(progress.hasToldError),
+                                      BrokenByWindows(monkey.Fingers().LastTyped())}) {
         if (!broken.empty()) {
             Report(broken);
         }

@@ -4,6 +4,7 @@
 
 #include "tests/monkey/FilePromises.h"
 #include "tests/monkey/Monkey.h"
+#include "tests/monkey/RecoveryPromises.h"
 #include "tests/monkey/Sandbox.h"
 
 #include <QBasicTimer>
@@ -44,6 +45,7 @@ private:
     Dice dice;
     Monkey monkey;
     FilePromises files;
+    RecoveryPromises recovery;
     int lastStep;
     int stepsToLeave = 0;
     QBasicTimer timer;
