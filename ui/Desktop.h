@@ -5,6 +5,7 @@
 #include "core/ProgramWindows.h"
 #include "ui/FileDialogs.h"
 #include "ui/MainWindow.h"
+#include "ui/PromptMnemonics.h"
 #include "ui/QtPlatform.h"
 #include "ui/QtPrinter.h"
 #include "ui/ReportWindow.h"
@@ -50,6 +51,7 @@ private:
     // Never the viewer, in whose place another one may come at any time.
     [[nodiscard]] QWidget* OwnerOfModal() const;
 
+    PromptMnemonics mnemonics;
     QtMessageBox messageBox;
     QtBeeper beeper;
     QtClock clock;

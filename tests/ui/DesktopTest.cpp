@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
@@ -65,6 +66,26 @@ TEST_F(DesktopProgram, TheMainWindowIsLoadedWhenItIsShownFirst) {
     Program().userSettings.Name = "Somebody else";
     desktop->ShowMain();
     EXPECT_EQ(Program().userSettings.Name.Trimmed(), "Somebody else");
+}
+
+TEST_F(DesktopProgram, TheUnderlinedLetterOfAButtonClicksItAtOnce) {
+    desktop->ShowMain();
+    QWidget& window = *WindowOfName("frmMain");
+    ShowActive(window);
+    QTest::keyClick(&window, Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Program().testKind, kSolidSet);
+    EXPECT_TRUE(Find<QRadioButton>(window, "OptBtnSolidSet").hasFocus());
+    // The button of a box, too.
+    Reply reply = Reply::None;
+    WhileModal(
+        [&] {
+            reply = CurrentPlatform().messageBox->Show({"Yes?", "Title", Buttons::YesNo, Icon::Question});
+        },
+        [](QWidget& box) {
+            QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
+            EXPECT_FALSE(box.isVisible());
+        });
+    EXPECT_EQ(reply, Reply::No);
 }
 
 TEST_F(DesktopProgram, SummariesAreThoseOfTheirKind) {
