@@ -25,10 +25,11 @@ namespace {
 
 constexpr auto kKeepEntries = static_cast<QEvent::Type>(QEvent::User + 1);
 
-// A name that has no room is shortened in its middle; the tip has it whole.
-class FileLabel : public QLabel {
+// One line. A text that has no room in it is shortened in its middle; the tip has it whole.
+class LineLabel : public QLabel {
 public:
-    FileLabel() {
+    explicit LineLabel(const char* name) {
+        setObjectName(name);
         setTextFormat(Qt::PlainText);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     }
@@ -70,10 +71,7 @@ void DataDialog::Complete(const std::function<void()>& saveAs) {
     auto* layout = new QVBoxLayout(this);
     AddMenus(saveAs);
     layout->addWidget(pages);
-    notice = NewLabel("labelNotice");
-    notice->setWordWrap(true);
-    notice->hide();
-    layout->addWidget(notice);
+    layout->addWidget(NewNotice());
     layout->addLayout(NewFootLine(saveAs));
     SetTabOrder();
     FilterNumericBoxes();
@@ -146,11 +144,21 @@ void DataDialog::AddMenus(const std::function<void()>& saveAs) {
             });
 }
 
+QWidget* DataDialog::NewNotice() {
+    notice = new LineLabel("labelNotice");
+    // It has its room before it comes: it must not push the cell out of sight that somebody types into.
+    QSizePolicy policy = notice->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    notice->setSizePolicy(policy);
+    notice->setFixedHeight(notice->fontMetrics().lineSpacing());
+    notice->hide();
+    return notice;
+}
+
 QLayout* DataDialog::NewFootLine(const std::function<void()>& saveAs) {
     auto* line = new QHBoxLayout;
     line->addWidget(new QLabel("Current File:"));
-    auto* file = new FileLabel;
-    file->setObjectName("labelFile");
+    auto* file = new LineLabel("labelFile");
     file->setAccessibleDescription("Current File:");
     line->addWidget(file, 1);
     if (saveAs) {

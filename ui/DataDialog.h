@@ -45,6 +45,7 @@ private:
     // An event of the logic that both kinds have.
     std::function<void()> Event(void (DataWindow::*handler)());
     void AddMenus(const std::function<void()>& saveAs);
+    QWidget* NewNotice();
     QLayout* NewFootLine(const std::function<void()>& saveAs);
     void FilterNumericBoxes();
     // Tells the logic of every entry that the user has finished.

@@ -215,6 +215,25 @@ TEST_F(DataRecovery, AFailureIsShownBelowThePages) {
     EXPECT_EQ(Said(), (Lines{"events", "events"}));
 }
 
+// Whoever goes down row by row types into the last row that shows.
+TEST_F(DataRecovery, AFailureHidesNoCell) {
+    fs::create_directory(RecoveryPath());
+    dialog->resize(dialog->minimumSizeHint().width(), dialog->height());
+    QCoreApplication::processEvents();
+    const int last = Table().rowAt(Table().viewport()->height() - 1);
+    GoTo(last, 2);
+    Type("77");
+    Press(Qt::Key_Down);
+    const int height = Table().height();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Get<QLabel>("labelNotice").isVisible());
+    EXPECT_EQ(Table().height(), height);
+    Type("78");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(Cell(last + 1, 2), "78");
+    EXPECT_EQ(Said(), (Lines{"events", "events"}));
+}
+
 class SolidSetRecovery : public DataRecovery {
 protected:
     SolidSetRecovery() { Open<ui::SolidSetDataDialog>(kSolidSet, "solid-set-1997.ssd"); }
