@@ -14,6 +14,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -104,6 +105,22 @@ void DataDialog::WatchEntries() {
             tell();
         }
     });
+    // What is dropped into a box changes it without the focus, and so does a screen reader.
+    const auto watch = [this, tell](const auto* box, auto changed) {
+        connect(box, changed, this, [box, tell] {
+            if (!box->hasFocus()) {
+                tell();
+            }
+        });
+    };
+    for (const QLineEdit* box : pages->findChildren<QLineEdit*>()) {
+        if (box != editor) {
+            watch(box, &QLineEdit::textChanged);
+        }
+    }
+    for (const QPlainTextEdit* box : pages->findChildren<QPlainTextEdit*>()) {
+        watch(box, &QPlainTextEdit::textChanged);
+    }
     for (const QAbstractButton* button : pages->findChildren<QAbstractButton*>()) {
         connect(button, &QAbstractButton::toggled, this, tell);
     }

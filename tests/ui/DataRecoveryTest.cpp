@@ -4,7 +4,9 @@
 #include "tests/ui/GridTest.h"
 #include "ui/SolidSetDataDialog.h"
 
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPaintEvent>
 #include <gtest/gtest.h>
 
@@ -114,6 +116,20 @@ TEST_F(DataRecovery, AChoiceIsKeptAtOnce) {
     makers.setCurrentIndex(3);
     Q_EMIT makers.activated(3);
     EXPECT_EQ(KeptText("ComboSystemManufacturer"), "Reinke");
+}
+
+TEST_F(DataRecovery, ATextThatIsDroppedIsKeptAtOnce) {
+    GoToPage(0);
+    auto& box = Box("txtBoxClientCity");
+    QMimeData words;
+    words.setText("Millbrook");
+    const QPoint place = box.rect().topLeft();
+    QDragEnterEvent enter(place, Qt::CopyAction, &words, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box, &enter);
+    QDropEvent drop(place, Qt::CopyAction, &words, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box, &drop);
+    EXPECT_FALSE(box.hasFocus()) << "so that nobody leaves it";
+    EXPECT_EQ(KeptText("txtBoxClientCity"), "MillbrookAlder Creek");
 }
 
 TEST_F(DataRecovery, AReadingIsKeptWhenItsCellHasIt) {
