@@ -20,6 +20,7 @@ namespace fs = std::filesystem;
 constexpr const char* kExtension = ".recovery";
 // More than any window can hold; what is larger is not ours.
 constexpr std::size_t kMostBytes = std::size_t{64} << 20;
+constexpr std::size_t kMostOfName = 255;
 
 // The same file by whatever way it was opened.
 fs::path FullPath(const fs::path& path) {
@@ -39,17 +40,21 @@ std::string NumberOf(const fs::path& path) {
     return text.str();
 }
 
+// Nothing where the name would leave no room for the number of a kept one.
 fs::path Beside(fs::path testFile) {
-    return testFile += kExtension;
+    constexpr std::size_t kMostOfNumber = 5; // "-9999"
+    testFile += kExtension;
+    const bool hasRoom = testFile.filename().native().size() + kMostOfNumber <= kMostOfName;
+    return hasRoom ? testFile : fs::path();
 }
 
 fs::path InUserFolder(const fs::path& testFile) {
-    constexpr std::size_t kMostOfName = 100; // a file name has 255 bytes at most
+    constexpr std::size_t kMostOfTestName = 100;
     const fs::path& folder = Program().userDataFolder;
     if (folder.empty()) {
         return {};
     }
-    const std::string name = testFile.filename().native().substr(0, kMostOfName);
+    const std::string name = testFile.filename().native().substr(0, kMostOfTestName);
     return folder / "recovery" / (name + "-" + NumberOf(testFile) + kExtension);
 }
 

@@ -169,6 +169,20 @@ TEST_F(RecoveryFileTest, ALongNameGoesToTheUsersFolder) {
     EXPECT_EQ(InUserFolder().at(0).size(), 100 + std::string("-0123456789abcdef.recovery").size());
 }
 
+TEST_F(RecoveryFileTest, ANameThatLeavesNoRoomForKeptOnesGoesToTheUsersFolder) {
+    for (const std::size_t length : {240U, 243U, 244U, 245U, 246U}) {
+        const RecoveryFile ofLong(folder / std::string(length, 'n'));
+        ofLong.Write("first");
+        ofLong.SetAside();
+        EXPECT_EQ(ofLong.Read(), Names{}) << length;
+        ofLong.Write("second");
+        EXPECT_EQ(folder.Names().size() + InUserFolder().size(), 2U) << length;
+        ofLong.Remove();
+        ofLong.RemoveKept();
+        EXPECT_EQ(folder.Names().size() + InUserFolder().size(), 0U) << length;
+    }
+}
+
 TEST_F(RecoveryFileTest, WhatIsSetAsideStaysUntilItIsRemoved) {
     for (const char* text : {"first", "second", "third"}) {
         file.Write(text);
