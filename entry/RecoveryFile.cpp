@@ -112,6 +112,8 @@ void RecoveryFile::Write(std::string_view content) const {
         std::error_code error;
         fs::create_directories(usersOwn.parent_path(), error);
         ReplacePrivately(usersOwn, content);
+        // The older one, which a disk may have taken that is full now.
+        RemoveFile(beside);
     }
 }
 

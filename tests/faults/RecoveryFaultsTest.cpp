@@ -96,6 +96,7 @@ protected:
             EXPECT_EQ(Found(), "new");
         } else if (run.report == "kept") {
             EXPECT_EQ(found, "new");
+            EXPECT_EQ(RecoveryFile(File()).Read().size(), 1U) << "an older one could be taken for it";
         } else {
             EXPECT_EQ(run.report, "told");
             EXPECT_EQ(fault.kind, FaultKind::Error);
