@@ -5,6 +5,7 @@
 #include "ui/Form.h"
 
 #include <QGuiApplication>
+#include <QVariant>
 
 // The linker leaves out the resources of a static library that nobody names. The macro wants no namespace
 // around it.
@@ -15,9 +16,19 @@ static void NameResources() {
 
 namespace orvel::ui {
 
-QIcon ProgramIcon() {
+QIcon SharedIcon(const QString& file) {
     NameResources();
-    return QIcon(":/orvel.svg");
+    const QByteArray name = "icon of " + file.toUtf8();
+    QVariant icon = qApp->property(name);
+    if (!icon.isValid()) {
+        icon = QIcon(file);
+        qApp->setProperty(name, icon);
+    }
+    return icon.value<QIcon>();
+}
+
+QIcon ProgramIcon() {
+    return SharedIcon(":/orvel.svg");
 }
 
 QLabel* NewLogo(int size) {

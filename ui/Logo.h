@@ -7,6 +7,9 @@
 
 namespace orvel::ui {
 
+// The icon in that file of the resources. It is made once: the toolkit's cache of pictures would remember
+// every one that was ever made.
+[[nodiscard]] QIcon SharedIcon(const QString& file);
 [[nodiscard]] QIcon ProgramIcon();
 
 // A label "imgLogo" with the program's picture, of that size in logical pixels.

@@ -3,6 +3,7 @@
 #include "ui/ReportWindow.h"
 
 #include "ui/InFront.h"
+#include "ui/Logo.h"
 #include "ui/Menus.h"
 #include "ui/TextEdge.h"
 #include "ui/Twips.h"
@@ -147,7 +148,7 @@ void ReportWindow::AddToolBar() {
             continue;
         }
         QAction* action = bar->addAction(
-            QIcon(QString(":/tools/%1.svg").arg(QString(item.key).toLower())), item.key, this,
+            SharedIcon(QString(":/tools/%1.svg").arg(QString(item.key).toLower())), item.key, this,
             [this, key = item.key] { Run([this, key] { logic.tbToolBar_ButtonClick(key); }); });
         tools.push_back(action);
         action->setObjectName(item.key);
