@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <algorithm>
@@ -68,15 +69,6 @@ EntryState EntriesOf(const QWidget& window) {
     return entries;
 }
 
-// The text that may get lost.
-std::string NameUnderTheHands(const QWidget& window) {
-    const QWidget* control = window.focusWidget();
-    if (control != nullptr && qobject_cast<const QComboBox*>(control->parentWidget()) != nullptr) {
-        control = control->parentWidget();
-    }
-    return control == nullptr ? "" : control->objectName().toStdString();
-}
-
 // The first entry that is not kept as it is shown, but for that of one control; empty for none.
 std::string Missing(const EntryState& kept, const EntryState& shown, const std::string& underTheHands) {
     for (const auto& [name, text] : shown.texts) {
@@ -96,10 +88,26 @@ std::string Missing(const EntryState& kept, const EntryState& shown, const std::
 
 } // namespace
 
+void RecoveryPromises::FindHands(const QWidget& ofWindow) {
+    const QWidget* control = ofWindow.focusWidget();
+    if (qobject_cast<const QMenuBar*>(control) != nullptr) {
+        // A menu gives the focus back.
+        return;
+    }
+    if (control != nullptr && qobject_cast<const QComboBox*>(control->parentWidget()) != nullptr) {
+        control = control->parentWidget();
+    }
+    underTheHands = control == nullptr ? "" : control->objectName().toStdString();
+}
+
 std::string RecoveryPromises::Broken(bool endsByError) {
     const QWidget* shownWindow = DataWindowShown();
     // Only what waits for the user has handled all that it was told.
     if (shownWindow == nullptr || (QApplication::activeModalWidget() != shownWindow && !endsByError)) {
+        return {};
+    }
+    if (CurrentFile().empty()) {
+        // From the report a data window can be opened without a test.
         return {};
     }
     const EntryState shown = EntriesOf(*shownWindow);
@@ -126,7 +134,8 @@ std::string RecoveryPromises::Broken(bool endsByError) {
     if (endsByError && kept.edit != shown.edit) {
         return "the open editor would be lost";
     }
-    const std::string missing = Missing(kept, shown, endsByError ? "" : NameUnderTheHands(*shownWindow));
+    FindHands(*shownWindow);
+    const std::string missing = Missing(kept, shown, endsByError ? "" : underTheHands);
     return missing.empty() ? "" : missing + " would be lost: it is not in " + source.filename().native();
 }
 

@@ -19,12 +19,15 @@ public:
     [[nodiscard]] std::string Broken(bool endsByError);
 
 private:
+    void FindHands(const QWidget& ofWindow);
+
     QPointer<const QWidget> window;
     // The entries that are safe, in which file, and when that was written: the test file is as good as a
     // recovery file when it has just been opened or saved.
     EntryState kept;
     std::filesystem::path keptIn;
     std::filesystem::file_time_type keptAt;
+    std::string underTheHands; // the control whose text may get lost
 };
 
 } // namespace orvel::monkey

@@ -48,7 +48,8 @@ std::string BrokenByModality(const std::vector<QWidget*>& windows) {
 std::string BrokenByFocus() {
     const QWidget* focus = QApplication::focusWidget();
     const QWidget* active = QApplication::activeWindow();
-    if (QApplication::activePopupWidget() != nullptr || active == nullptr) {
+    if (QApplication::activePopupWidget() != nullptr || active == nullptr ||
+        KindOf(*active) == WindowKind::Other) {
         return {};
     }
     if (focus == nullptr) {

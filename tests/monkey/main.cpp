@@ -51,10 +51,10 @@ int RunSession(std::uint64_t seed, int steps, const Sandbox& sandbox, Progress& 
     return Session(seed, steps, sandbox, progress).Run();
 }
 
-// Waits for the session's end. One that does nothing for long is ended.
-int WaitFor(pid_t session, const Progress& progress) {
+// Waits for the session's end. One in which nothing happens for long is ended.
+int WaitFor(pid_t session, Progress& progress) {
     using namespace std::chrono;
-    constexpr auto kPatience = minutes(3);
+    constexpr auto kPatience = minutes(5);
     auto lastMove = steady_clock::now();
     int lastStep = progress.steps;
     int status = 0;
@@ -63,7 +63,8 @@ int WaitFor(pid_t session, const Progress& progress) {
             lastStep = progress.steps;
             lastMove = steady_clock::now();
         } else if (steady_clock::now() - lastMove > kPatience) {
-            (void)::kill(session, SIGABRT);
+            progress.finding = "nothing happens any more";
+            (void)::kill(session, SIGKILL);
         }
         std::this_thread::sleep_for(milliseconds(5));
     }
