@@ -82,6 +82,8 @@ TEST_F(DesktopProgram, TheUnderlinedLetterOfAButtonClicksItAtOnce) {
             reply = CurrentPlatform().messageBox->Show({"Yes?", "Title", Buttons::YesNo, Icon::Question});
         },
         [](QWidget& box) {
+            box.activateWindow();
+            EXPECT_TRUE(QTest::qWaitFor([&box] { return box.isActiveWindow(); }));
             QTest::keyClick(&box, Qt::Key_N, Qt::AltModifier);
             EXPECT_FALSE(box.isVisible());
         });
