@@ -7,8 +7,8 @@
 extern "C" const char* __asan_default_options();
 extern "C" const char* __lsan_default_suppressions();
 
-// Functions have names in reports, and so in the suppressions, too; and no test that awaits the end of a program
-// takes a report's status for it.
+// Functions have names in reports, and so in the suppressions, too; and no test that awaits the end of a
+// program takes a report's status for it.
 extern "C" const char* __asan_default_options() {
     return "external_symbolizer_path=/usr/bin/llvm-symbolizer-16:exitcode=99";
 }
