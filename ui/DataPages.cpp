@@ -12,6 +12,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -44,18 +45,28 @@ protected:
 };
 
 class TextLines : public QPlainTextEdit {
+public:
+    explicit TextLines(std::size_t mostCharacters) : limit(static_cast<qsizetype>(mostCharacters)) {}
+
 protected:
     void insertFromMimeData(const QMimeData* source) override {
         // The toolkit can't paste from an empty clipboard.
         if (canInsertFromMimeData(source)) {
-            QPlainTextEdit::insertFromMimeData(source);
+            // One more draws the message and is cut; the toolkit would take a minute to wrap a word of a
+            // megabyte.
+            QMimeData part;
+            part.setText(source->text().left(limit + 1));
+            QPlainTextEdit::insertFromMimeData(&part);
         }
     }
+
+private:
+    qsizetype limit;
 };
 
-QPlainTextEdit* NewTextLines() {
+QPlainTextEdit* NewTextLines(std::size_t mostCharacters) {
     constexpr int kLeastLines = 3;
-    auto* box = new TextLines;
+    auto* box = new TextLines(mostCharacters);
     box->setTabChangesFocus(true);
     box->setMinimumHeight(box->fontMetrics().lineSpacing() * kLeastLines + 2 * box->frameWidth());
     return box;
@@ -267,7 +278,7 @@ QWidget* DataPages::NewControl(const LabelledControl& labelled) {
         KeepOneLine(*list->lineEdit());
         control = list;
     } else if (name.ends_with("Comments")) {
-        auto* box = NewTextLines();
+        auto* box = NewTextLines(logic.WidthOf(name));
         connect(box, &QPlainTextEdit::textChanged, this, changed);
         control = box;
     } else {

@@ -11,6 +11,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <chrono>
 
 // What both data windows share, shown by the center-pivot one.
 namespace orvel {
@@ -165,6 +166,21 @@ TEST_F(DataDialog, APastedTextIsCutToo) {
     comments.paste();
     EXPECT_EQ(comments.toPlainText(), QString(2000, 'a'));
     EXPECT_EQ(surroundings.Said().size(), 2U);
+}
+
+TEST_F(DataDialog, AHugeWordIsCutBeforeItIsWrapped) {
+    QApplication::clipboard()->setText(QString(1'000'000, '7'));
+    auto& comments = Get<QPlainTextEdit>("txtBoxFieldComments");
+    Pages().setCurrentIndex(1);
+    comments.setPlainText("before after");
+    QTextCursor cursor = comments.textCursor();
+    cursor.setPosition(7);
+    comments.setTextCursor(cursor);
+    const auto begin = std::chrono::steady_clock::now();
+    comments.paste();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+    EXPECT_EQ(comments.toPlainText(), "before " + QString(493, '7'));
+    EXPECT_EQ(surroundings.Said(), Lines{"box [Input Error] Maximim Characters in this field is 500 (Ok)"});
 }
 
 TEST_F(DataDialog, ALongFileNameIsShortenedAndDoesNotWidenTheWindow) {
