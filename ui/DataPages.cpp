@@ -53,9 +53,9 @@ protected:
         // The toolkit can't paste from an empty clipboard.
         if (canInsertFromMimeData(source)) {
             // One more draws the message and is cut; the toolkit would take a minute to wrap a word of a
-            // megabyte.
+            // megabyte. A character may be two units of its text.
             QMimeData part;
-            part.setText(source->text().left(limit + 1));
+            part.setText(source->text().left(2 * (limit + 1)));
             QPlainTextEdit::insertFromMimeData(&part);
         }
     }
