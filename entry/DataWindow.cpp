@@ -46,12 +46,7 @@ void DataWindow::Form_Load() {
     TakeMainRecord();
     form.Load(EditCopy());
     LoadRest();
-    recovery.emplace(Capture());
-    OfferRecovered();
-}
-
-void DataWindow::OfferRecovered() {
-    if (const std::optional<EntryState> state = recovery->Offer()) {
+    if (const std::optional<EntryState> state = recovery.emplace(Capture()).Offer()) {
         Restore(*state);
     }
 }

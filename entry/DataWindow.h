@@ -117,7 +117,6 @@ private:
 
     [[nodiscard]] EntryState Capture() const;
     void Restore(const EntryState& state);
-    void OfferRecovered();
 
     DataView& view;
     ProgramWindows& windows;

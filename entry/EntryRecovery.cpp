@@ -37,7 +37,7 @@ std::string Now() {
 
 } // namespace
 
-EntryRecovery::EntryRecovery(const EntryState& untouched) : file(FileOfOpenTest()), kept(untouched) {}
+EntryRecovery::EntryRecovery(EntryState untouched) : file(FileOfOpenTest()), kept(std::move(untouched)) {}
 
 std::optional<EntryState> EntryRecovery::Offer() {
     std::optional<RecoveredEntries> latest;

@@ -16,7 +16,7 @@ namespace orvel {
 class EntryRecovery {
 public:
     // Of the open test, whose controls show that and nobody has touched.
-    explicit EntryRecovery(const EntryState& untouched);
+    explicit EntryRecovery(EntryState untouched);
 
     // What an earlier run left behind, if the user wants it back. What he does not want, and what can't be
     // read, is kept under another name until the next save.

@@ -34,7 +34,8 @@ public:
     }
 
     void SetText(std::string_view control, const std::string& text) override {
-        SetControlText(window, control, ToUtf8(text));
+        const std::string utf8 = ToUtf8(text);
+        SetControlText(window, control, utf8);
     }
 
 private:
