@@ -60,8 +60,8 @@ std::string ControlText(const QWidget& window, std::string_view control) {
     return FindControl<QComboBox>(window, control)->currentText().toStdString();
 }
 
-void SetControlText(const QWidget& window, std::string_view control, std::string_view utf8) {
-    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+void SetControlText(const QWidget& window, std::string_view control, const std::string& utf8) {
+    const QString text = QString::fromStdString(utf8);
     if (auto* box = FindControl<QLineEdit>(window, control)) {
         const int cursor = box->cursorPosition();
         box->setText(text);

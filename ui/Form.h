@@ -20,7 +20,7 @@ namespace orvel::ui {
 // of one, at the end of a cut text, is dropped.
 [[nodiscard]] std::string ControlText(const QWidget& window, std::string_view control);
 // The same controls and labels. The cursor stays where the user types.
-void SetControlText(const QWidget& window, std::string_view control, std::string_view utf8);
+void SetControlText(const QWidget& window, std::string_view control, const std::string& utf8);
 
 // A form's view as far as all windows share it: controls are found by their object names. A window derives
 // from it beside its widget and passes itself.
@@ -34,8 +34,7 @@ public:
     }
 
     void SetText(std::string_view control, const std::string& text) override {
-        const std::string utf8 = ToUtf8(text);
-        SetControlText(window, control, utf8);
+        SetControlText(window, control, ToUtf8(text));
     }
 
 private:
