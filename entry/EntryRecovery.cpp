@@ -37,7 +37,8 @@ std::string Now() {
 
 } // namespace
 
-EntryRecovery::EntryRecovery(EntryState untouched) : file(FileOfOpenTest()), kept(std::move(untouched)) {}
+EntryRecovery::EntryRecovery(EntryState untouched)
+    : file(FileOfOpenTest()), saved(std::move(untouched)), kept(saved) {}
 
 std::optional<EntryState> EntryRecovery::Offer() {
     std::optional<RecoveredEntries> latest;
@@ -67,10 +68,15 @@ std::optional<EntryState> EntryRecovery::Offer() {
 }
 
 void EntryRecovery::Keep(const EntryState& state) {
-    if (state != kept) {
-        file.Write(RecoveryText({Program().testKind, Now(), state}));
-        kept = state;
+    if (state == kept) {
+        return;
     }
+    if (state == saved) {
+        file.Remove();
+    } else {
+        file.Write(RecoveryText({Program().testKind, Now(), state}));
+    }
+    kept = state;
 }
 
 void EntryRecovery::Saved(const EntryState& state) {
@@ -79,9 +85,10 @@ void EntryRecovery::Saved(const EntryState& state) {
     file = FileOfOpenTest();
     // Of the test that was in that file.
     file.SetAside();
-    kept = state;
+    saved = state;
     // No record holds what the editor does.
-    kept.edit.reset();
+    saved.edit.reset();
+    kept = saved;
 }
 
 } // namespace orvel

@@ -12,7 +12,7 @@
 namespace orvel {
 
 // Keeps what is typed into a data window safe until it is saved: between opening and closing the window, the
-// recovery file of its test holds the last state that differs from what was opened or saved.
+// recovery file of its test holds the last state, as long as that differs from what was opened or saved.
 class EntryRecovery {
 public:
     // Of the open test, whose controls show that and nobody has touched.
@@ -22,7 +22,8 @@ public:
     // read, is kept under another name until the next save.
     [[nodiscard]] std::optional<EntryState> Offer();
 
-    // Writes the state unless it is kept already. Raises FileError.
+    // Writes the state unless it is kept already; nothing is left to recover of one that is as it was opened
+    // or saved. Raises FileError.
     void Keep(const EntryState& state);
 
     // The test is saved, maybe in another file, with which it goes on: nothing is left to recover.
@@ -32,7 +33,8 @@ public:
 
 private:
     RecoveryFile file;
-    EntryState kept; // or saved
+    EntryState saved; // or opened
+    EntryState kept;  // by the file, or saved where there is none
 };
 
 } // namespace orvel

@@ -139,9 +139,30 @@ TYPED_TEST(DataWindowRecovery, WhatIsKeptAlreadyIsNotWrittenAgain) {
     this->window.EntryMade();
     this->Repaint();
     EXPECT_EQ(Contents(this->folder / this->RecoveryName()), before);
-    this->Type("txtBoxCrops", "");
+}
+
+TYPED_TEST(DataWindowRecovery, NothingIsLeftOfWhatIsBackAsItWas) {
+    this->Type("txtBoxCrops", "Corn");
     this->Repaint();
-    EXPECT_NE(Contents(this->folder / this->RecoveryName()), before) << "also back to what it was";
+    this->Type("txtBoxCrops", std::string{this->Main().Crops.Trimmed()});
+    this->Repaint();
+    EXPECT_EQ(this->Recovery(), Lines{}) << "as it was opened";
+    this->Type("txtBoxCrops", "Corn");
+    this->Save();
+    this->Type("txtBoxCrops", "Cotton");
+    this->Edit(9, "5");
+    this->view.postedKeeps = 0;
+    this->window.KeepEntries();
+    EXPECT_EQ(this->Recovery(), (Lines{this->RecoveryName()}));
+    this->window.Grid().txtEdit_KeyDown(27);
+    this->Type("txtBoxCrops", "Corn");
+    this->view.postedKeeps = 0;
+    this->window.KeepEntries();
+    EXPECT_EQ(this->Recovery(), Lines{}) << "as it was saved";
+    (void)this->Said();
+    this->Type("txtBoxCrops", "Cotton");
+    this->Repaint();
+    EXPECT_EQ(this->Recovery(), (Lines{this->RecoveryName()}));
 }
 
 TYPED_TEST(DataWindowRecovery, YesBringsEverythingBackAlsoWhatNoRecordCouldHold) {
@@ -195,6 +216,31 @@ TYPED_TEST(DataWindowRecovery, WhatIsRestoredIsNotOfferedUnchangedForever) {
     EXPECT_EQ(this->Saved().Crops.Trimmed(), "Corn");
     this->OpenAgain({});
     EXPECT_EQ(this->Said(), Lines{});
+}
+
+TYPED_TEST(DataWindowRecovery, NothingIsLeftOfWhatIsRestoredAndTakenBack) {
+    this->Type("txtBoxCrops", "Corn");
+    this->Repaint();
+    this->OpenAgain(Reply::Yes);
+    EXPECT_EQ(this->Said(), (Lines{kQuestion}));
+    this->view.SetTypedText("txtBoxCrops", std::string{this->Main().Crops.Trimmed()});
+    this->next->KeepEntries();
+    EXPECT_EQ(this->Recovery(), Lines{});
+}
+
+TYPED_TEST(DataWindowRecovery, TheTextsOfCellsAreOfTheCodePage) {
+    this->PutCell(3, 1, "\xB0");
+    this->Edit(9, "\x80");
+    KeepOpenEntries();
+    const auto entries = ReadRecoveryText(Contents(this->folder / this->RecoveryName()));
+    ASSERT_TRUE(entries);
+    EXPECT_EQ(entries->state.cells[2][0], "\u00B0");
+    EXPECT_EQ(entries->state.edit, (CellEdit{9, TestFixture::kVolume, "\u20AC"}));
+    this->OpenAgain(Reply::Yes);
+    this->next->Form_Show();
+    (void)this->Said();
+    EXPECT_EQ(this->next->Grid().Cell(3, 1), "\xB0");
+    EXPECT_EQ(this->view.editor, "\x80");
 }
 
 TYPED_TEST(DataWindowRecovery, TheOpenEditorAndItsCellComeBackWhenTheWindowIsShown) {
@@ -261,6 +307,17 @@ TYPED_TEST(DataWindowRecovery, SaveRemovesItAndTheNextEntryBringsItBack) {
     EXPECT_EQ(this->Recovery(), Lines{}) << "what Save has put into empty cells included";
     this->Type("txtBoxCrops", "Cotton");
     this->Repaint();
+    EXPECT_EQ(this->Recovery(), (Lines{this->RecoveryName()}));
+}
+
+TYPED_TEST(DataWindowRecovery, WhatWasKeptBeforeASaveIsKeptAgainAfterIt) {
+    this->Save();
+    this->Type("txtBoxCrops", "Corn");
+    this->Repaint();
+    this->view.Put("txtBoxCrops", "Cotton");
+    this->Save();
+    this->view.Put("txtBoxCrops", "Corn");
+    KeepOpenEntries();
     EXPECT_EQ(this->Recovery(), (Lines{this->RecoveryName()}));
 }
 

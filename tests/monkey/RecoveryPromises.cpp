@@ -127,8 +127,13 @@ std::string RecoveryPromises::Broken(bool endsByError) {
             }
             kept = entries->state;
         } else {
-            // Opened, or saved.
-            kept = shown;
+            // Opened or saved just now, or back as it was then.
+            if (window != savedIn || time != savedAt) {
+                saved = shown;
+                savedIn = window;
+                savedAt = time;
+            }
+            kept = saved;
         }
     }
     if (endsByError && kept.edit != shown.edit) {

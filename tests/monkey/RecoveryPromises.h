@@ -27,6 +27,10 @@ private:
     EntryState kept;
     std::filesystem::path keptIn;
     std::filesystem::file_time_type keptAt;
+    // What the test file is as good as a recovery file for, in which window, and when it was written.
+    EntryState saved;
+    QPointer<const QWidget> savedIn;
+    std::filesystem::file_time_type savedAt;
     std::string underTheHands; // the control whose text may get lost
 };
 
