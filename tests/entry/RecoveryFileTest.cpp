@@ -222,6 +222,13 @@ TEST_F(RecoveryFileTest, WhereNoPlaceTakesItIsAnError) {
     ofNothing.RemoveKept();
 }
 
+TEST_F(RecoveryFileTest, OfAHugeFileOnlyTheBeginningIsRead) {
+    constexpr std::size_t kMost = std::size_t{64} << 20;
+    file.Write("typed");
+    fs::resize_file(folder / "test.cpd.recovery", kMost + 1);
+    EXPECT_EQ(file.Read().at(0).size(), kMost);
+}
+
 TEST_F(RecoveryFileTest, WhatCannotBeReadIsEmpty) {
     file.Write("typed");
     fs::permissions(folder / "test.cpd.recovery", fs::perms::none);

@@ -111,6 +111,7 @@ protected:
         const TracedRun whole = RunTraced(Keeping(), {}, [this] { ExpectPrivate(); });
         EXPECT_EQ(whole.report, "kept");
         EXPECT_EQ(Found(), "new");
+        EXPECT_EQ(std::ranges::count(whole.calls, "fsync"), 2) << "the file and its folder";
         for (std::size_t call = 0; call < whole.calls.size() && !HasFailure(); ++call) {
             SCOPED_TRACE("call " + std::to_string(call) + ", " + whole.calls[call]);
             if (ORVEL_IS_SANITIZED) { // which makes a fork slow

@@ -3,11 +3,13 @@
 #include "entry/EntryState.h"
 #include "tests/ui/GridTest.h"
 #include "ui/SolidSetDataDialog.h"
+#include "ui/UncaughtError.h"
 
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
 #include <QPaintEvent>
+#include <cstdio>
 #include <gtest/gtest.h>
 
 // The controls of a data window and its recovery file.
@@ -20,6 +22,7 @@ namespace fs = std::filesystem;
 using testing::Contents;
 using testing::kTestPage;
 using testing::Lines;
+using testing::PutContents;
 
 class DataRecovery : public testing::GridTest {
 protected:
@@ -85,9 +88,10 @@ TEST_F(DataRecovery, ManyLinesAndListsAreKeptWhenTheyAreLeft) {
     GoToPage(1);
     auto& comments = Get<QPlainTextEdit>("txtBoxFieldComments");
     comments.setFocus();
-    comments.setPlainText(QString::fromUtf8("wet\n\u2603"));
+    comments.setPlainText(QString::fromUtf8("wet\n\u2603\u2028dry"));
     Box("txtBoxFieldName").setFocus();
-    EXPECT_EQ(KeptText("txtBoxFieldComments"), "wet\r\n\u2603") << "not what the code page makes of it";
+    EXPECT_EQ(KeptText("txtBoxFieldComments"), "wet\r\n\u2603\r\ndry")
+        << "not what the code page makes of it";
     auto& soils = Get<QComboBox>("comboSoilType");
     soils.setFocus();
     soils.setEditText("peat");
@@ -130,6 +134,8 @@ TEST_F(DataRecovery, ATextThatIsDroppedIsKeptAtOnce) {
     QCoreApplication::sendEvent(&box, &drop);
     EXPECT_FALSE(box.hasFocus()) << "so that nobody leaves it";
     EXPECT_EQ(KeptText("txtBoxClientCity"), "MillbrookAlder Creek");
+    Get<QPlainTextEdit>("txtBoxOtherComments").setPlainText("dropped");
+    EXPECT_EQ(KeptText("txtBoxOtherComments"), "dropped");
 }
 
 TEST_F(DataRecovery, AReadingIsKeptWhenItsCellHasIt) {
@@ -211,6 +217,35 @@ TEST_F(DataRecovery, TheOpenEditorComesBackOverItsCell) {
     EXPECT_EQ(Cell(250, 2), "123");
 }
 
+// Says whether the file is there by the time the box is.
+class Witness : public MessageBoxService {
+public:
+    explicit Witness(fs::path ofRecovery) : recovery(std::move(ofRecovery)) {}
+
+    Reply Show(const Message& /*message*/) override {
+        (void)std::fputs(fs::exists(recovery) ? "kept before" : "not kept yet", stderr);
+        return Reply::Ok;
+    }
+
+private:
+    fs::path recovery;
+};
+
+TEST_F(DataRecovery, AnErrorThatEndsTheProgramFindsTheFileCurrent) {
+    GoToPage(0);
+    Box("txtBoxClientName").setFocus();
+    Box("txtBoxClientName").clear();
+    Type("A. Grower");
+    Witness witness(RecoveryPath());
+    EXPECT_EXIT(
+        {
+            UsePlatform({.messageBox = &witness, .clock = &clock});
+            ui::Run([] { Raise(ErrorNumber::TypeMismatch); });
+        },
+        ::testing::ExitedWithCode(1), "kept before$");
+    EXPECT_EQ(KeptText("txtBoxClientName"), "A. Grower") << "by the process that has ended";
+}
+
 TEST_F(DataRecovery, AFailureIsShownBelowThePages) {
     fs::create_directory(RecoveryPath());
     EXPECT_TRUE(Get<QLabel>("labelNotice").isHidden());
@@ -265,6 +300,17 @@ TEST_F(SolidSetRecovery, TheLayoutComesBack) {
     EXPECT_EQ(Kept()->checks.at("optBtnSquare"), false);
     OpenAgain<ui::SolidSetDataDialog>();
     EXPECT_TRUE(Get<QRadioButton>("optBtnTriangle").isChecked());
+    EXPECT_FALSE(Get<QRadioButton>("optBtnSquare").isChecked());
+}
+
+TEST_F(SolidSetRecovery, NoLayoutComesBack) {
+    Box("txtBoxCrops").setText("sod");
+    auto state = Kept();
+    ASSERT_TRUE(state);
+    state->checks.at("optBtnSquare") = false;
+    PutContents(RecoveryPath(), RecoveryText({kSolidSet, "2026-07-04 09:05:03", *state}));
+    OpenAgain<ui::SolidSetDataDialog>();
+    EXPECT_FALSE(Get<QRadioButton>("optBtnTriangle").isChecked());
     EXPECT_FALSE(Get<QRadioButton>("optBtnSquare").isChecked());
 }
 
