@@ -67,7 +67,8 @@ std::string BrokenByFocus() {
 // A window that has just been shown: later the user may have moved it anywhere.
 std::string BrokenByPlace(QWidget& window) {
     constexpr const char* kSeen = "seenByMonkey";
-    if (window.property(kSeen).toBool() || !window.isActiveWindow()) {
+    const bool isToolkits = KindOf(window) >= WindowKind::Menu;
+    if (isToolkits || window.property(kSeen).toBool() || !window.isActiveWindow()) {
         return {};
     }
     window.setProperty(kSeen, true);
