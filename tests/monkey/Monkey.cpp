@@ -100,7 +100,7 @@ void Monkey::Act() {
         {55, &Monkey::DoAnything},
         {6, &Monkey::ChooseCommand},
         {4, &Monkey::MendSoil},
-        {4, &Monkey::OpenList},
+        {8, &Monkey::OpenList},
         {4, &Monkey::FillGrid},
         {5, &Monkey::LeaveDataWindow},
     }};
