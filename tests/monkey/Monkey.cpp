@@ -95,11 +95,12 @@ void Monkey::Act() {
         {20, &Monkey::ChooseCommand},
         {1, &Monkey::CloseByTitleBar},
     }};
-    static constexpr std::array<Habit, 7> kData = {{
+    static constexpr std::array<Habit, 8> kData = {{
         {25, &Monkey::EnterReadings},
         {55, &Monkey::DoAnything},
         {6, &Monkey::ChooseCommand},
         {4, &Monkey::MendSoil},
+        {4, &Monkey::SaveWhileTyping},
         {8, &Monkey::OpenList},
         {4, &Monkey::FillGrid},
         {5, &Monkey::LeaveDataWindow},
@@ -307,6 +308,12 @@ void Monkey::MendSoil() {
     hands.Click(*soil->lineEdit());
     hands.Press(Qt::Key_A, Qt::ControlModifier);
     hands.Type(QString("%1 - ").arg(dice.Between(1, 9)));
+    hands.Press(dice.OneOf(std::array{Qt::Key_Tab, Qt::Key_Return}));
+}
+
+void Monkey::SaveWhileTyping() {
+    hands.TypeText();
+    hands.Press(Qt::Key_S, Qt::ControlModifier);
 }
 
 void Monkey::OpenList() {

@@ -64,6 +64,7 @@ private:
     void FillGrid();
     void MendSoil();
     void OpenList();
+    void SaveWhileTyping();
     void LeaveDataWindow();
     void GoToPageOf(const QWidget& control);
 
