@@ -4,6 +4,8 @@
 
 #include "core/Descriptor.h"
 
+#include <cerrno>
+#include <fcntl.h>
 #include <string>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -63,6 +65,10 @@ void SetAccessList(int file, const std::string& list) {
 }
 
 } // namespace
+
+bool IsClosedToUser(const std::filesystem::path& path) {
+    return ::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == -1 && errno == EACCES;
+}
 
 void GivePermissionsOfNewFile(int newFile) {
     constexpr mode_t kNewFileBits = 0666;

@@ -5,8 +5,12 @@
 #include <filesystem>
 #include <sys/stat.h>
 
-// Who may read and write a new file, which nobody but its owner can before. Both raise FileError.
 namespace orvel {
+
+// Whether the system tells that the user may not read what is there.
+[[nodiscard]] bool IsClosedToUser(const std::filesystem::path& path);
+
+// Who may read and write a new file, which nobody but its owner can before. Both raise FileError.
 
 // As the system gives them to any new file.
 void GivePermissionsOfNewFile(int newFile);

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "entry/RecoveryFile.h"
 
+#include "core/FilePermissions.h"
 #include "core/ProgramState.h"
 #include "core/RunTimeError.h"
 #include "core/SafeFile.h"
+#include "core/TestFile.h"
 
 #include <cstdint>
 #include <iomanip>
@@ -63,14 +65,26 @@ fs::path Kept(const fs::path& place, int number) {
     return path += "-" + std::to_string(number);
 }
 
-// Of an empty path, too. A link, a pipe or a folder of that name is none of ours.
-bool Exists(const fs::path& path) {
+bool IsTaken(const fs::path& path) {
     std::error_code error;
-    return fs::is_regular_file(fs::symlink_status(path, error));
+    return fs::exists(fs::symlink_status(path, error));
+}
+
+// What somebody else types into the same test, in a folder that they share.
+bool IsAnothers(const fs::path& path) {
+    return IsTaken(path) && IsClosedToUser(path);
+}
+
+// Of an empty path, too. A link, a pipe or a folder of that name is none of ours, and neither is a test that
+// was saved under it.
+bool IsOurs(const fs::path& path) {
+    std::error_code error;
+    return fs::is_regular_file(fs::symlink_status(path, error)) && !IsAnothers(path) &&
+           path != FullPath(CurrentFile());
 }
 
 void RemoveFile(const fs::path& path) {
-    if (Exists(path)) {
+    if (IsOurs(path)) {
         std::error_code ignored;
         fs::remove(path, ignored);
     }
@@ -88,7 +102,7 @@ RecoveryFile::RecoveryFile(const fs::path& testFile) {
 std::vector<std::string> RecoveryFile::Read() const {
     std::vector<std::string> contents;
     for (const fs::path& place : places) {
-        if (!Exists(place)) {
+        if (!IsOurs(place)) {
             continue;
         }
         std::string& content = contents.emplace_back();
@@ -103,7 +117,7 @@ std::vector<std::string> RecoveryFile::Read() const {
 void RecoveryFile::Write(std::string_view content) const {
     const auto& [beside, usersOwn] = places;
     try {
-        ReplacePrivately(beside, content);
+        ReplacePrivately(IsAnothers(beside) ? fs::path() : beside, content);
         RemoveFile(usersOwn);
     } catch (const FileError&) {
         if (usersOwn.empty()) {
@@ -125,21 +139,21 @@ void RecoveryFile::Remove() const {
 
 void RecoveryFile::SetAside() const {
     for (const fs::path& place : places) {
-        if (!Exists(place)) {
+        if (!IsOurs(place)) {
             continue;
         }
         int number = 1;
-        std::error_code error;
-        while (fs::exists(fs::symlink_status(Kept(place, number), error))) {
+        while (IsTaken(Kept(place, number))) {
             ++number;
         }
+        std::error_code error;
         fs::rename(place, Kept(place, number), error);
     }
 }
 
 void RecoveryFile::RemoveKept() const {
     for (const fs::path& place : places) {
-        for (int number = 1; Exists(Kept(place, number)); ++number) {
+        for (int number = 1; IsTaken(Kept(place, number)); ++number) {
             RemoveFile(Kept(place, number));
         }
     }

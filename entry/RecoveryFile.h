@@ -12,7 +12,7 @@ namespace orvel {
 
 // The recovery file of a test: "NAME.cpd.recovery" beside the test file (behind its links), or, where it
 // can't be written there, in the folder "recovery" of the user's data folder, under the test file's name and
-// a number made from its full path. Only the user can read it.
+// a number made from its full path. Only the user can read it; another user's is left alone.
 class RecoveryFile {
 public:
     // Of no file: there is no place for it.

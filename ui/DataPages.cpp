@@ -12,11 +12,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -123,6 +125,12 @@ QWidget* NewTips() {
 
 DataPages::DataPages(DataWindow& ofWindow) : logic(ofWindow) {
     setObjectName("tabPages");
+    // A menu bar that is used by keys gives them back to where they were, be that hidden by now.
+    connect(this, &QTabWidget::currentChanged, this, [this] {
+        if (qobject_cast<QMenuBar*>(window()->focusWidget()) != nullptr) {
+            tabBar()->setFocus();
+        }
+    });
 }
 
 void DataPages::AddClientPage() {

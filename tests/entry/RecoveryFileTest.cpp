@@ -229,11 +229,40 @@ TEST_F(RecoveryFileTest, OfAHugeFileOnlyTheBeginningIsRead) {
     EXPECT_EQ(file.Read().at(0).size(), kMost);
 }
 
-TEST_F(RecoveryFileTest, WhatCannotBeReadIsEmpty) {
-    file.Write("typed");
-    fs::permissions(folder / "test.cpd.recovery", fs::perms::none);
-    const AsOrdinaryUser ordinary(folder.Path());
-    EXPECT_EQ(file.Read(), (Names{""}));
+TEST_F(RecoveryFileTest, WhatAnotherUserTypesIsLeftAlone) {
+    for (const char* name : {"test.cpd.recovery", "test.cpd.recovery-1"}) {
+        PutContents(folder / name, "of somebody else");
+        fs::permissions(folder / name, fs::perms::none); // whoever owns it: what counts is that it is closed
+    }
+    fs::permissions(user.Path(), fs::perms::all);
+    const auto others = [this] {
+        return folder.Names() == Names{"test.cpd.recovery", "test.cpd.recovery-1"};
+    };
+    {
+        const AsOrdinaryUser ordinary(folder.Path());
+        EXPECT_EQ(file.Read(), Names{});
+        file.SetAside();
+        EXPECT_TRUE(others());
+        file.Write("typed");
+        EXPECT_EQ(InUserFolder().size(), 1U);
+        EXPECT_EQ(file.Read(), (Names{"typed"}));
+        file.Remove();
+        EXPECT_EQ(InUserFolder(), Names{});
+        PutContents(folder / "test.cpd.recovery-2", "kept");
+        file.RemoveKept();
+        EXPECT_TRUE(others()) << "only the user's own one goes";
+    }
+    fs::permissions(folder / "test.cpd.recovery", fs::perms::owner_read);
+    EXPECT_EQ(Contents(folder / "test.cpd.recovery"), "of somebody else");
+}
+
+TEST_F(RecoveryFileTest, ATestThatIsSavedUnderItsNameIsNone) {
+    Program().centerPivotFile = folder / "test.cpd.recovery";
+    PutContents(folder / "test.cpd.recovery", "a test");
+    EXPECT_EQ(file.Read(), Names{});
+    file.SetAside();
+    file.Remove();
+    EXPECT_EQ(Contents(folder / "test.cpd.recovery"), "a test");
 }
 
 } // namespace

@@ -321,6 +321,16 @@ TEST_F(FrmCenterPivotSave, ASaveAsThatWroteTakesTheRecoveryFileWithIt) {
     EXPECT_EQ(folder.Names(), (Lines{"a.cpd"}));
 }
 
+TEST_F(FrmCenterPivotSave, ASaveAsUnderTheNameOfItsRecoveryFileKeepsTheTest) {
+    Load();
+    view.Put("txtBoxClientName", "Ann");
+    KeepOpenEntries();
+    ASSERT_EQ(folder.Names(), (Lines{"test.cpd.recovery"}));
+    EXPECT_EQ(SaveAs(folder / "test.cpd.recovery"), (Lines{Dialog("")}));
+    EXPECT_EQ(folder.Names(), (Lines{"test.cpd.recovery"}));
+    EXPECT_EQ(ReadTest<CenterPivotTest>(folder / "test.cpd.recovery").ClientName.Trimmed(), "Ann");
+}
+
 TEST_F(FrmCenterPivotSave, ASaveAsOfWhatIsNoNumberShowsTheBoxAndNoDialog) {
     Load();
     view.Put("comboSoilType", "Choose Soil Type");

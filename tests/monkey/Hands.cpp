@@ -335,14 +335,21 @@ void Hands::Resize() {
     const QSize screen = window->screen()->availableSize();
     const QSize size(dice.Between(1, screen.width() * 5 / 4), dice.Between(1, screen.height() * 5 / 4));
     Note(QString("resize to %1x%2").arg(size.width()).arg(size.height()).toStdString());
-    Send([&] { window->resize(size); });
+    Send([&] {
+        // No window manager resizes a window that fills the screen, or is none.
+        window->setWindowState(Qt::WindowNoState);
+        window->resize(size);
+    });
 }
 
 void Hands::Move() {
     const QSize screen = window->screen()->availableSize();
     const QPoint place(dice.Between(-screen.width() / 2, screen.width()), dice.Between(0, screen.height()));
     Note("move" + Describe(place).toStdString());
-    Send([&] { window->move(place); });
+    Send([&] {
+        window->setWindowState(Qt::WindowNoState);
+        window->move(place);
+    });
 }
 
 void Hands::MinimizeOrMaximize() {

@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QWheelEvent>
 
 // What both data windows share, shown by the center-pivot one.
@@ -283,6 +284,18 @@ TEST_F(DataDialog, AComboBoxShowsAnyTextAndCompletesNothing) {
     QTest::keyClick(&list, Qt::Key_Return);
     EXPECT_EQ(list.currentText(), "Re");
     EXPECT_EQ(list.count(), 7);
+}
+
+TEST_F(DataDialog, AMenuGivesTheKeysBackToNoHiddenPage) {
+    Pages().setCurrentIndex(1);
+    Get<QComboBox>("ComboCommonTillage").setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Alt);
+    ASSERT_NE(qobject_cast<QMenuBar*>(QApplication::focusWidget()), nullptr) << "Alt opens no menu";
+    QTest::mouseClick(Pages().tabBar(), Qt::LeftButton, {}, Pages().tabBar()->tabRect(0).center());
+    ASSERT_EQ(Pages().currentIndex(), 0);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible())
+        << QApplication::focusWidget()->objectName().toStdString();
 }
 
 TEST_F(DataDialog, TheWheelTurnsNoComboBoxThatLacksTheFocus) {
