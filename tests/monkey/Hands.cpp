@@ -313,7 +313,8 @@ void Hands::ChooseCommand() {
 
 void Hands::Choose(QAction& command) {
     const auto* menu = qobject_cast<const QMenu*>(command.parent());
-    auto* bar = window->findChild<QMenuBar*>();
+    // The window itself may be the menu.
+    const auto* bar = menu->parentWidget()->window()->findChild<QMenuBar*>();
     const int way = dice.Below(3);
     Note("choose " + command.objectName().toStdString());
     if (way == 0 && !command.shortcut().isEmpty()) {
