@@ -70,13 +70,6 @@ bool IsClosedToUser(const std::filesystem::path& path) {
     return ::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == -1 && errno == EACCES;
 }
 
-void GivePermissionsOfNewFile(int newFile) {
-    constexpr mode_t kNewFileBits = 0666;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    SetBits(newFile, kNewFileBits & ~mask);
-}
-
 void GivePermissionsOf(const std::filesystem::path& old, const struct stat& oldStatus, int newFile) {
     KeepOwnerAndGroup(oldStatus, newFile);
     const struct stat status = StatusOf(newFile);

@@ -138,7 +138,8 @@ void ReplaceByRename(const fs::path& path, const struct stat* old, std::string_v
     }
     // The folder, or its sticky bit, may forbid what the file itself allows.
     const auto mayOverwrite = [old] { return old != nullptr && (errno == EACCES || errno == EPERM); };
-    TemporaryFile temporary(FolderOf(path));
+    TemporaryFile temporary(FolderOf(path),
+                            old != nullptr ? TemporaryFile::kOwnerOnly : TemporaryFile::kNewFile);
     if (!temporary.IsOpen()) {
         if (mayOverwrite()) {
             OverwriteInPlace(path, content, flush);
@@ -149,8 +150,6 @@ void ReplaceByRename(const fs::path& path, const struct stat* old, std::string_v
     WriteAll(temporary.Get(), content);
     if (old != nullptr) {
         GivePermissionsOf(path, *old, temporary.Get());
-    } else {
-        GivePermissionsOfNewFile(temporary.Get());
     }
     if (!PutInPlace(temporary, path, flush)) {
         if (!mayOverwrite()) {
@@ -195,11 +194,10 @@ void ReplacePrivately(const fs::path& path, std::string_view content) {
     if (path.empty()) {
         throw FileError("cannot open for writing", ENOENT);
     }
-    TemporaryFile temporary(FolderOf(path));
+    TemporaryFile temporary(FolderOf(path), TemporaryFile::kOwnerOnly);
     if (!temporary.IsOpen()) {
         FailedAt(path, "create a file in the folder");
     }
-    // A temporary file is its owner's alone.
     WriteAll(temporary.Get(), content);
     if (!PutInPlace(temporary, path, Flush::ToDisk)) {
         FailedTo("replace the file");

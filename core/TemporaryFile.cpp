@@ -4,8 +4,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
+#include <cstdio>
 #include <fcntl.h>
+#include <string>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -22,15 +23,18 @@ constexpr std::array<std::string_view, 8> kNames = {
     ".orvel-save-5", ".orvel-save-6", ".orvel-save-7", ".orvel-save-8",
 };
 
-constexpr mode_t kOwnerOnly = 0600;
-
 bool MayBeOurs(const struct stat& file) {
     const uid_t user = ::geteuid();
     return S_ISREG(file.st_mode) && file.st_nlink == 1 && (user == 0 || file.st_uid == user);
 }
 
 void RemoveIfLeftBehind(const fs::path& path) {
-    const Descriptor file = Open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK;
+    Descriptor file = Open(path, O_RDONLY | kFlags);
+    if (!file.IsOpen() && errno == EACCES) {
+        // Of a file that may be written only.
+        file = Open(path, O_WRONLY | kFlags);
+    }
 
     struct stat opened {};
     struct stat named {};
@@ -50,20 +54,29 @@ bool IsTakenAway(const Descriptor& file) {
            (::fstat(file.Get(), &status) == 0 && status.st_nlink == 0);
 }
 
+std::string OtherName(unsigned number) {
+    constexpr unsigned kSixDigits = 0xFFFFFF;
+    std::array<char, 16> text{};
+    (void)std::snprintf(text.data(), text.size(), ".orvel-%06x", number & kSixDigits);
+    return text.data();
+}
+
 } // namespace
 
-TemporaryFile::TemporaryFile(const fs::path& folder) {
+TemporaryFile::TemporaryFile(const fs::path& folder, unsigned mode) {
     for (const std::string_view each : kNames) {
         const fs::path path = folder / each;
         RemoveIfLeftBehind(path);
-        if (!IsOpen() && !Create(path) && errno != EEXIST) {
+        if (!IsOpen() && !Create(path, mode) && errno != EEXIST) {
             return;
         }
     }
-    if (!IsOpen()) {
-        std::string pattern = (folder / ".orvel-XXXXXX").native();
-        file = Descriptor(::mkostemp(pattern.data(), O_CLOEXEC));
-        name = pattern;
+    constexpr unsigned kMostTries = 1000;
+    const auto first = static_cast<unsigned>(::getpid());
+    for (unsigned i = 0; i < kMostTries && !IsOpen(); ++i) {
+        if (!Create(folder / OtherName(first + i), mode) && errno != EEXIST) {
+            return;
+        }
     }
 }
 
@@ -87,8 +100,8 @@ bool TemporaryFile::TakeName(const fs::path& path) {
     return true;
 }
 
-bool TemporaryFile::Create(const fs::path& path) {
-    Descriptor created = Open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, kOwnerOnly);
+bool TemporaryFile::Create(const fs::path& path, unsigned mode) {
+    Descriptor created = Open(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
     if (!created.IsOpen()) {
         return false;
     }

@@ -13,16 +13,20 @@ namespace orvel {
 // its scope unless it has.
 //
 // A folder has few names for them, ".orvel-save-1" to ".orvel-save-8", one for each save that is under way at
-// the same time; should they not suffice, any other ".orvel-" and six characters. Who writes one holds its
-// lock (flock), so that one without is what a killed program left: whatever is saved next in that folder
+// the same time; should they not suffice, other ".orvel-" and six digits of hexadecimal. Who writes one holds
+// its lock (flock), so that one without is what a killed program left: whatever is saved next in that folder
 // removes it. A name that is taken for another reason stays: the file of somebody else, a folder, a link, a
 // file of more than one name, one on a file system without locks. No failure of tidying up is one of the
 // save.
 //
-// Nobody but its owner can read it, until it is given other permissions (core/FilePermissions).
+// Until it is given other permissions (core/FilePermissions), it has those with which it was created.
 class TemporaryFile {
 public:
-    explicit TemporaryFile(const std::filesystem::path& folder);
+    static constexpr unsigned kOwnerOnly = 0600;
+    // What the user's mask and the folder's list for new files leave of it, as for any new file.
+    static constexpr unsigned kNewFile = 0666;
+
+    TemporaryFile(const std::filesystem::path& folder, unsigned mode);
     ~TemporaryFile();
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -40,7 +44,7 @@ public:
     [[nodiscard]] bool TakeName(const std::filesystem::path& path);
 
 private:
-    [[nodiscard]] bool Create(const std::filesystem::path& path);
+    [[nodiscard]] bool Create(const std::filesystem::path& path, unsigned mode);
 
     std::filesystem::path name; // empty for none
     Descriptor file;

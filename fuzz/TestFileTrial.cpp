@@ -188,10 +188,13 @@ void TestFileTrial::TryListing() {
     std::string text;
     const auto error = ErrorOf([&] { text = kind.listingText(); });
     RequireOnly(error, {ErrorNumber::Overflow}, "a listing");
-    Require(tried.record() == record, "a listing only reads");
     if (!error) {
         RequireCupLines(text, FilledEntries(record, tried.fields));
     }
+    std::string again;
+    Require(ErrorOf([&] { again = kind.listingText(); }) == error && again == text,
+            "a listing that is made again is the same");
+    Require(tried.record() == record, "a listing only reads");
 }
 
 void TestFileTrial::TryChecks() {
@@ -222,6 +225,8 @@ void TestFileTrial::TryResults() {
             "cups are those before two zeros");
     Require(Program().shownError.has_value() == !boxes.Messages().empty(), "an error is shown");
     Require(boxes.Messages().size() <= 1, "an error ends the calculation");
+    Program().shownError.reset();
+    Require(kind.calculate().json == results.json, "a calculation that is made again is the same");
     Require(IsOnlyTrimmed(record, tried.record(), tried.fields), "a calculation only trims");
 }
 
@@ -258,6 +263,10 @@ void TestFileTrial::TrySummary() {
     if (!error) {
         tried.trySummary(summary);
     }
+    std::string again;
+    Require(ErrorOf([&] { again = kind.buildSummary(); }) == error && again == summary,
+            "a summary that is made again is the same");
+    Require(IsOnlyTrimmed(record, tried.record(), tried.fields), "a summary only trims");
 }
 
 } // namespace orvel::fuzz

@@ -71,7 +71,7 @@ void MemoryRichTextBox::Load(const std::filesystem::path& file) {
 }
 
 void MemoryRichTextBox::Save(const std::filesystem::path& file) const {
-    ReplaceFile(file, WriteRtf(Document()), Flush::ToDisk);
+    SaveRtf(file, Document());
 }
 
 std::size_t MemoryRichTextBox::DrawRange(const FormatRange& /*range*/) {

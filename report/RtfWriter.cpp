@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "report/RtfWriter.h"
 
+#include "core/SafeFile.h"
 #include "core/Unicode.h"
 
 #include <algorithm>
@@ -165,6 +166,10 @@ std::string WriteRtf(const RichDocument& document) {
         }
     }
     return rtf + "}\r\n";
+}
+
+void SaveRtf(const std::filesystem::path& file, const RichDocument& document) {
+    ReplaceFile(file, WriteRtf(document), Flush::ToDisk);
 }
 
 } // namespace orvel

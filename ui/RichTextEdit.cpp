@@ -203,7 +203,7 @@ void RichTextEdit::Load(const std::filesystem::path& file) {
 void RichTextEdit::Save(const std::filesystem::path& file) const {
     const WaitingCursor waiting;
     // Not by a cursor, which would have the whole document laid out.
-    ReplaceFile(file, WriteRtf(Extract(*document(), 0, document()->characterCount() - 1)), Flush::ToDisk);
+    SaveRtf(file, Extract(*document(), 0, document()->characterCount() - 1));
 }
 
 std::unique_ptr<QTextDocument> RichTextEdit::NewDocument() const {

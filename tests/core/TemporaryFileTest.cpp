@@ -49,10 +49,17 @@ TEST_F(TemporaryFiles, WhatAKilledProgramLeftIsRemovedByTheNextSave) {
     ExpectLeftBySave({});
 }
 
+TEST_F(TemporaryFiles, SoIsOneOfAFileThatNobodyMayRead) {
+    const testing::AsOrdinaryUser user(folder.Path());
+    PutContents(folder / ".orvel-save-1", "half of a tes");
+    fs::permissions(folder / ".orvel-save-1", fs::perms::owner_write);
+    ExpectLeftBySave({});
+}
+
 TEST_F(TemporaryFiles, EachSaveUnderWayHasOneOfItsOwn) {
     std::vector<std::unique_ptr<TemporaryFile>> files;
     for (int i = 0; i < 10; ++i) {
-        files.push_back(std::make_unique<TemporaryFile>(folder.Path()));
+        files.push_back(std::make_unique<TemporaryFile>(folder.Path(), TemporaryFile::kOwnerOnly));
         ASSERT_TRUE(files.back()->IsOpen());
     }
     Names names = folder.Names();
@@ -67,11 +74,11 @@ TEST_F(TemporaryFiles, EachSaveUnderWayHasOneOfItsOwn) {
 }
 
 TEST_F(TemporaryFiles, OneKeepsItsLockUntilItHasItsName) {
-    TemporaryFile file(folder.Path());
+    TemporaryFile file(folder.Path(), TemporaryFile::kOwnerOnly);
     ASSERT_TRUE(file.TakeName(folder / "taken"));
     EXPECT_FALSE(file.IsOpen());
     EXPECT_EQ(folder.Names(), Names{"taken"});
-    TemporaryFile another(folder.Path());
+    TemporaryFile another(folder.Path(), TemporaryFile::kOwnerOnly);
     ASSERT_FALSE(another.TakeName(folder / "none/taken"));
     ExpectLeftBySave({".orvel-save-1", "taken"});
 }

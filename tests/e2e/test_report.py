@@ -145,6 +145,7 @@ class ReportTest(ReportWindowTest):
         bait.write_bytes(b"bait")
         document.write_text(
             rf"""{{\rtf1 {{\field{{\*\fldinst INCLUDEPICTURE "{bait}" \\d}}{{\fldrslt a}}}}"""
+            rf"""{{\field{{\*\fldinst INCLUDEPICTURE "http://127.0.0.1:9/bait.png" \\d}}{{\fldrslt }}}}"""
             rf"""{{\field{{\*\fldinst HYPERLINK "http://127.0.0.1:9/bait"}}{{\fldrslt b}}}}"""
             rf"""{{\object\objautlink\objupdate{{\*\objdata {bait}}}{{\result c}}}}"""
             rf"""{{\*\template {bait}}}<img src="file://{bait}">}}""", encoding="ascii")

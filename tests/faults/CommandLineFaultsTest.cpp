@@ -23,6 +23,7 @@ protected:
             fs::copy_file(Example("pivot-1978.cpd"), copy);
         }
         PutContents(inputs / "pivot.json", R"({"ClientName": "Ann", "Gauges": [{"Volume": 12.5}]})");
+        PutContents(inputs / "solid.json", R"({"ClientName": "Ann"})");
         Program().programDirectory = inputs.Path();
         SaveUserSettings(CompleteUserSettings());
         GiveToOrdinaryUser(inputs.Path());
@@ -45,7 +46,8 @@ protected:
             .failures = {{"orvel-cli: ", "status 3"},
                          {"orvel-cli: ", "orvel-cli: ", "status 3"},
                          {"orvel-cli: --", "status 2"}},
-            .prepare = [this] { BeginErrors(); }};
+            .prepare = [this] { BeginErrors(); },
+            .isFlushed = arguments.at(1) == "build"};
         for (const std::string& output : outputs) {
             saving.files.push_back(OldOutput(output));
         }
@@ -89,6 +91,10 @@ private:
 
 TEST_F(CommandLineFaults, Build) {
     ExpectSafeOutput({"build", inputs / "pivot.json"}, "built.cpd");
+}
+
+TEST_F(CommandLineFaults, BuildOfASolidSetTest) {
+    ExpectSafeOutput({"build", inputs / "solid.json"}, "built.ssd");
 }
 
 TEST_F(CommandLineFaults, Report) {

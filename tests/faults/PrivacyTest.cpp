@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <linux/posix_acl.h>
@@ -111,6 +112,25 @@ TEST_F(Privacy, OfANewFile) {
         allowed.status.st_mode = S_IFREG | (0666U & ~mask);
         allowed.status.st_gid = PermissionsOf(folder.Path()).status.st_gid;
         EXPECT_EQ(Save(allowed, mask).status.st_mode, allowed.status.st_mode);
+        fs::remove(file);
+    }
+}
+
+TEST_F(Privacy, OfANewFileInAFolderThatGivesItsFilesAnAccessList) {
+    GiveToOrdinaryUser(folder.Path());
+    AccessList list;
+    for (const std::uint16_t othersMay : std::array<std::uint16_t, 2>{0, ACL_READ}) {
+        SCOPED_TRACE(othersMay);
+        list.entries.back().e_perm = othersMay;
+        ASSERT_EQ(::setxattr(folder.Path().c_str(), kListOfNewFiles, &list, sizeof list, 0), 0);
+        PutContents(file, "as any program makes it");
+        GiveToOrdinaryUser(folder.Path());
+        const Permissions ofAnyOther = PermissionsOf(file);
+        ASSERT_EQ(ofAnyOther.Has(S_IROTH), othersMay == ACL_READ);
+        fs::remove(file);
+        const Permissions now = Save(ofAnyOther);
+        EXPECT_EQ(now.status.st_mode, ofAnyOther.status.st_mode);
+        EXPECT_EQ(now.accessList, ofAnyOther.accessList);
         fs::remove(file);
     }
 }

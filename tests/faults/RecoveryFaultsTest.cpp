@@ -1,15 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
 #include "tests/entry/DataWindowTest.h"
+#include "tests/faults/SmallDisk.h"
 #include "tests/faults/Tracer.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <iostream>
 #include <string>
 #include <sys/stat.h>
+#include <vector>
 
 // The recovery file is written while the user types, whatever goes wrong then.
 namespace orvel::testing {
@@ -46,8 +49,11 @@ protected:
             }
         }
         PutContents(File(), test);
+        if (isBlocked) {
+            fs::create_directory(RecoveryPath());
+        }
         if (hasOld) {
-            PutContents(RecoveryPath(), old);
+            RecoveryFile(File()).Write(old);
         }
         GiveToOrdinaryUser(folder.Path());
         GiveToOrdinaryUser(user.Path());
@@ -65,21 +71,30 @@ protected:
         return contents.empty() ? "none" : contents.front() == old ? "old" : "damaged";
     }
 
-    [[nodiscard]] int Temporaries() const {
-        int count = 0;
-        for (const auto& entry : fs::directory_iterator(folder.Path())) {
-            count += entry.path().filename().native().starts_with(".orvel-") ? 1 : 0;
+    // The files of both places.
+    [[nodiscard]] std::vector<fs::path> Files() const {
+        std::vector<fs::path> files;
+        for (const fs::path& each : {folder.Path(), user.Path()}) {
+            for (const auto& entry : fs::recursive_directory_iterator(each)) {
+                if (entry.is_regular_file()) {
+                    files.push_back(entry);
+                }
+            }
         }
-        return count;
+        return files;
+    }
+
+    [[nodiscard]] std::ptrdiff_t Temporaries() const {
+        return std::ranges::count_if(
+            Files(), [](const fs::path& file) { return file.filename().native().starts_with(".orvel-"); });
     }
 
     // Nobody but the user reads what is being written.
     void ExpectPrivate() const {
-        for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
+        for (const fs::path& file : Files()) {
             struct stat status {};
-            const bool isOurs = ::stat(entry.path().c_str(), &status) == 0 && entry.is_regular_file() &&
-                                entry.path() != File() && entry.path() != RecoveryPath();
-            EXPECT_FALSE(isOurs && (status.st_mode & 077) != 0) << entry.path();
+            const bool isOurs = ::stat(file.c_str(), &status) == 0 && file != File();
+            EXPECT_FALSE(isOurs && (status.st_mode & 077) != 0) << file;
         }
     }
 
@@ -91,17 +106,19 @@ protected:
         const std::string found = Found();
         if (run.wasKilled) {
             EXPECT_TRUE(found == "new" || found == (hasOld ? "old" : "none")) << found;
-            EXPECT_LE(Temporaries(), 1);
-            EXPECT_EQ(RunTraced(Keeping(), {}).report, "kept");
-            EXPECT_EQ(Found(), "new");
         } else if (run.report == "kept") {
             EXPECT_EQ(found, "new");
             EXPECT_EQ(RecoveryFile(File()).Read().size(), 1U) << "an older one could be taken for it";
         } else {
             EXPECT_EQ(run.report, "told");
             EXPECT_EQ(fault.kind, FaultKind::Error);
-            EXPECT_TRUE(Program().userDataFolder.empty()) << "there is another place";
-            EXPECT_NE(found, "damaged");
+            EXPECT_TRUE(Program().userDataFolder.empty() || isBlocked) << "there is another place";
+            EXPECT_TRUE(found == "new" || found == (hasOld ? "old" : "none")) << found;
+        }
+        if (run.wasKilled || run.calls.at(fault.call) == "unlink") {
+            EXPECT_LE(Temporaries(), 1);
+            EXPECT_EQ(RunTraced(Keeping(), {}).report, "kept");
+            EXPECT_EQ(Found(), "new");
         }
         EXPECT_EQ(Temporaries(), 0);
     }
@@ -111,7 +128,8 @@ protected:
         const TracedRun whole = RunTraced(Keeping(), {}, [this] { ExpectPrivate(); });
         EXPECT_EQ(whole.report, "kept");
         EXPECT_EQ(Found(), "new");
-        EXPECT_EQ(std::ranges::count(whole.calls, "fsync"), 2) << "the file and its folder";
+        // What can't take its name was on the disk before.
+        EXPECT_EQ(std::ranges::count(whole.calls, "fsync"), isBlocked ? 3 : 2) << "the file and its folder";
         for (std::size_t call = 0; call < whole.calls.size() && !HasFailure(); ++call) {
             SCOPED_TRACE("call " + std::to_string(call) + ", " + whole.calls[call]);
             if (ORVEL_IS_SANITIZED) { // which makes a fork slow
@@ -134,6 +152,8 @@ protected:
     const std::string test = "the test file";
     const std::string old = "the recovery file before";
     TemporaryFolder user;
+    // Whether something lies in the way of the file beside the test.
+    bool isBlocked = false;
     int trials = 0;
 };
 
@@ -147,6 +167,31 @@ TEST_F(RecoveryFaults, InTheUsersFolderWhereItFailsBesideTheTest) {
     Program().userDataFolder = user.Path();
     Load();
     TryAll(true);
+}
+
+TEST_F(RecoveryFaults, InTheUsersFolder) {
+    Program().userDataFolder = user.Path();
+    isBlocked = true;
+    Load();
+    TryAll(false);
+    TryAll(true);
+}
+
+TEST_F(RecoveryFaults, OnAFullDisk) {
+    Load();
+    const SmallDisk disk(folder.Path());
+    std::string report;
+    for (std::size_t blocks = 0; report != "kept"; ++blocks) {
+        SCOPED_TRACE(blocks);
+        SetUpFolder(true);
+        disk.LeaveFree(blocks);
+        report = RunTraced(Keeping(), {}).report;
+        EXPECT_EQ(Contents(File()), test);
+        EXPECT_EQ(Found(), report == "kept" ? "new" : "old");
+        EXPECT_EQ(Temporaries(), 0);
+        ASSERT_LT(blocks, 100U) << "there is room enough";
+        EXPECT_TRUE(blocks > 0 || report == "told") << "the disk was not full";
+    }
 }
 
 TEST_F(RecoveryFaults, WhatFailsWhileItIsRemovedCostsNothing) {

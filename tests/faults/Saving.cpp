@@ -243,10 +243,18 @@ private:
                 EXPECT_EQ(content.substr(file.record), file.old.substr(file.record));
             }
         }
+        ExpectFlushed();
         EXPECT_EQ(std::ranges::find(calls, "getdents64"), calls.end()) << "the other files cost nothing";
         EXPECT_FALSE(IsFailure(told, {})) << ::testing::PrintToString(told);
         ExpectTheRestAsItWas();
         EXPECT_EQ(Temporaries(), std::vector<fs::path>{});
+    }
+
+    // What is written, and the folder of a new name.
+    void ExpectFlushed() const {
+        const auto count = [this](const char* call) { return std::ranges::count(calls, call); };
+        const auto writes = scene == Scene::InPlace ? count("ftruncate") : 2 * count("rename");
+        EXPECT_EQ(count("fsync"), saving.isFlushed ? writes : 0);
     }
 
     void Fail(std::size_t call, const Error& error) {

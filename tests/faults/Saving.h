@@ -42,6 +42,8 @@ struct Saving {
     std::vector<Lines> failures;
     // Comes before `save`, untraced.
     std::function<void()> prepare = [] {};
+    // Whether a save waits until its files are on the disk.
+    bool isFlushed = true;
 };
 
 // Expects that the user loses nothing: over an existing file (behind a symbolic link, with permissions of its

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The ORVEL developers
 # SPDX-License-Identifier: MIT
 """Reads from the programs, as they are installed, how hard they are to take over: test_hardening.py CMAKE BUILD
-optimised|not-optimised."""
+optimised|not-optimised PROGRAM..."""
 
 import pathlib
 import re
@@ -10,7 +10,7 @@ import sys
 import tempfile
 import unittest
 
-CMAKE, BUILD, KIND = sys.argv[1:4]
+CMAKE, BUILD, KIND, *PROGRAMS = sys.argv[1:]
 
 
 class HardeningTest(unittest.TestCase):
@@ -34,8 +34,8 @@ class HardeningTest(unittest.TestCase):
     def imported(self):
         return [re.findall(r" UND (\w+)", symbols) for symbols in self.read("--dyn-syms")]
 
-    def test_the_command_line_is_among_them(self):
-        self.assertIn("orvel-cli", [program.name for program in self.programs])
+    def test_all_programs_are_among_them(self):
+        self.assertEqual(sorted(PROGRAMS), [program.name for program in self.programs])
 
     def test_they_have_no_fixed_address(self):
         for header in self.read("--file-header"):

@@ -7,10 +7,9 @@
 #include <QClipboard>
 #include <QMimeData>
 #include <array>
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <string>
-#include <sys/stat.h>
+#include <sys/inotify.h>
 #include <unistd.h>
 
 // A text never makes the program open a file or an address.
@@ -22,26 +21,25 @@ namespace fs = std::filesystem;
 
 using testing::PutContents;
 
-// A pipe with something in it: whoever opens it takes that out.
+// A file that nobody may open.
 class Bait {
 public:
     explicit Bait(const fs::path& path) {
-        EXPECT_EQ(::mkfifo(path.c_str(), 0600), 0);
-        pipe = ::open(path.c_str(), O_RDWR | O_NONBLOCK);
-        EXPECT_EQ(::write(pipe, "bait", 4), 4);
+        PutContents(path, "bait");
+        EXPECT_NE(::inotify_add_watch(events, path.c_str(), IN_OPEN), -1);
     }
 
     ~Bait() {
-        std::array<char, 8> left{};
-        EXPECT_EQ(::read(pipe, left.data(), left.size()), 4) << "somebody has read it";
-        ::close(pipe);
+        std::array<char, 256> event{};
+        EXPECT_EQ(::read(events, event.data(), event.size()), -1) << "somebody has opened it";
+        ::close(events);
     }
 
     Bait(const Bait&) = delete;
     Bait& operator=(const Bait&) = delete;
 
 private:
-    int pipe = -1;
+    int events = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
 };
 
 class ClosedDoors : public testing::WidgetTest {

@@ -56,6 +56,14 @@ TEST_F(SoilIntakeDialog, ShowsTheTableUnderItsLabels) {
     EXPECT_EQ(Find<QPushButton>(*dialog, "cmdBtnCancel").text().remove('&'), "Cancel");
 }
 
+TEST_F(SoilIntakeDialog, PastedLinesBecomeOne) {
+    QApplication::clipboard()->setText("Fine\r\nSand\n");
+    QLineEdit& soil = Box("txtBoxSoil1");
+    soil.selectAll();
+    QTest::keyClick(&soil, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(soil.text(), "Fine Sand ");
+}
+
 TEST_F(SoilIntakeDialog, CanBeUsedByKeyboardAndScreenReader) {
     ExpectReachable(*dialog);
     Lines order;
