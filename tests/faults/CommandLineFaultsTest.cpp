@@ -37,15 +37,20 @@ protected:
         for (const std::string& argument : arguments) {
             argv.push_back(argument.c_str());
         }
+        const std::string ofOutput = "orvel-cli: " + folder.Path().native() + "/&";
+        const std::string ofInput = "orvel-cli: " + inputs.Path().native() + "/&";
         Saving saving = {
             .folder = folder.Path(),
             .files = {},
             .save = [&] { status = cli::RunCommandLine(static_cast<int>(argv.size()), argv.data()); },
             .said = [this] { return Told(); },
             // A folder of the call that cannot be looked at makes it a wrong call.
-            .failures = {{"orvel-cli: ", "status 3"},
-                         {"orvel-cli: ", "orvel-cli: ", "status 3"},
-                         {"orvel-cli: --", "status 2"}},
+            .failures = {{ofOutput, "status 3"},
+                         {ofInput, "status 3"},
+                         {ofInput, ofOutput, "status 3"},
+                         {ofOutput, ofOutput, "status 3"},
+                         {"orvel-cli: --output-dir: no such folder: " + folder.Path().native(), "status 2"},
+                         {"orvel-cli: --program-dir: no such folder: " + inputs.Path().native(), "status 2"}},
             .prepare = [this] { BeginErrors(); },
             .isFlushed = arguments.at(1) == "build"};
         for (const std::string& output : outputs) {

@@ -38,7 +38,8 @@ struct Saving {
     // What the user was told and what else was done meanwhile.
     std::function<Lines()> said;
     // How the lines begin that a failed save ends with, one way or another. "%" stands for the number of the
-    // run-time error. An error that `save` lets go is the line "run-time error %".
+    // run-time error, "&" for anything and the system's words for its error. An error that `save` lets go is
+    // the line "run-time error %".
     std::vector<Lines> failures;
     // Comes before `save`, untraced.
     std::function<void()> prepare = [] {};
