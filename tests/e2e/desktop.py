@@ -19,6 +19,7 @@ import tempfile
 import time
 
 PATIENCE = 20  # seconds
+PATIENCE_AT_THE_START = 90
 
 
 class Desktop:
@@ -208,7 +209,7 @@ class Desktop:
 
     @staticmethod
     def _wait_for_the_window_manager():
-        end = time.monotonic() + PATIENCE
+        end = time.monotonic() + PATIENCE_AT_THE_START
         while subprocess.run(["xdotool", "get_num_desktops"], capture_output=True, check=False).returncode != 0:
             if time.monotonic() > end:
                 raise RuntimeError("the window manager does not start")
