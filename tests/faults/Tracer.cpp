@@ -67,12 +67,25 @@ constexpr std::array kNames = std::to_array<NamedCall>({
     {SYS_write, "write"},
 });
 
-// Memory, and what the system never refuses.
-constexpr std::array<CallNumber, 15> kLeftOut = {
-    SYS_brk,     SYS_mmap,  SYS_munmap,        SYS_mprotect,    SYS_mremap,
-    SYS_madvise, SYS_futex, SYS_getpid,        SYS_gettid,      SYS_geteuid,
-    SYS_getuid,  SYS_umask, SYS_clock_gettime, SYS_sched_yield, SYS_getrandom,
-};
+// Memory, what the system never refuses, and what a sanitizer does of its own.
+constexpr std::array kLeftOut = std::to_array<CallNumber>({
+    SYS_brk,
+    SYS_mmap,
+    SYS_munmap,
+    SYS_mprotect,
+    SYS_mremap,
+    SYS_madvise,
+    SYS_futex,
+    SYS_getpid,
+    SYS_gettid,
+    SYS_geteuid,
+    SYS_getuid,
+    SYS_umask,
+    SYS_clock_gettime,
+    SYS_sched_yield,
+    SYS_getrandom,
+    SYS_sigaltstack,
+});
 
 std::string NameOf(CallNumber number) {
     const auto* const found = std::ranges::find(kNames, number, &NamedCall::number);
