@@ -70,16 +70,11 @@ bool IsTaken(const fs::path& path) {
     return fs::exists(fs::symlink_status(path, error));
 }
 
-// What somebody else types into the same test, in a folder that they share.
-bool IsAnothers(const fs::path& path) {
-    return IsTaken(path) && IsClosedToUser(path);
-}
-
 // Of an empty path, too. A link, a pipe or a folder of that name is none of ours, and neither is a test that
-// was saved under it.
+// was saved under it, nor what somebody else types into the same test, in a folder that they share.
 bool IsOurs(const fs::path& path) {
     std::error_code error;
-    return fs::is_regular_file(fs::symlink_status(path, error)) && !IsAnothers(path) &&
+    return fs::is_regular_file(fs::symlink_status(path, error)) && !IsClosedToUser(path) &&
            path != FullPath(CurrentFile());
 }
 
@@ -117,7 +112,7 @@ std::vector<std::string> RecoveryFile::Read() const {
 void RecoveryFile::Write(std::string_view content) const {
     const auto& [beside, usersOwn] = places;
     try {
-        ReplacePrivately(IsAnothers(beside) ? fs::path() : beside, content);
+        ReplacePrivately(IsClosedToUser(beside) ? fs::path() : beside, content);
         RemoveFile(usersOwn);
     } catch (const FileError&) {
         if (usersOwn.empty()) {

@@ -23,6 +23,9 @@ namespace fs = std::filesystem;
 
 using FaultKind = Fault::Kind;
 
+const std::string kDamaged = "box [Restore Entries] The recovery file of this test can't be read. It is kept "
+                             "under another name until the next save. (Ok)";
+
 constexpr std::array kErrors = {ENOSPC, EIO, EACCES, EXDEV};
 
 class RecoveryFaults : public DataWindowTest<frmCenterPivotData> {
@@ -191,6 +194,30 @@ TEST_F(RecoveryFaults, OnAFullDisk) {
         EXPECT_EQ(Temporaries(), 0);
         ASSERT_LT(blocks, 100U) << "there is room enough";
         EXPECT_TRUE(blocks > 0 || report == "told") << "the disk was not full";
+    }
+}
+
+TEST_F(RecoveryFaults, WhatFailsWhileItIsOfferedCostsNothing) {
+    const auto open = [this](const Fault& fault) {
+        SetUpFolder(true);
+        TracedRun run = RunTraced(
+            {.prepare = [this] { Program().userDataFolder = user.Path(); },
+             .act = [this] { window.Form_Load(); },
+             .report = [this] { return surroundings.Said() == Lines{kDamaged} ? "told" : "nothing"; }},
+            fault);
+        EXPECT_TRUE(std::ranges::any_of(Files(), [this](const fs::path& file) {
+            return Contents(file) == old && file.filename().native().starts_with("test.cpd.recovery");
+        }));
+        return run;
+    };
+    const TracedRun whole = open({});
+    EXPECT_EQ(whole.report, "told");
+    for (std::size_t call = 0; call < whole.calls.size(); ++call) {
+        SCOPED_TRACE("call " + std::to_string(call) + ", " + whole.calls[call]);
+        for (const int error : kErrors) {
+            const TracedRun run = open({.kind = FaultKind::Error, .call = call, .error = error});
+            EXPECT_TRUE(run.report == "told" || whole.calls[call] != "read") << "it counts as damaged";
+        }
     }
 }
 
