@@ -167,8 +167,10 @@ class Desktop:
     # ------------------------------------------------------------------------------------------------------
 
     def _start(self):
+        # Without -noreset the server starts anew when its last client leaves: the first look for the window manager
+        # would throw a window manager out that is just coming in.
         os.environ.update(
-            DISPLAY=":" + self._first_line_of("Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24"),
+            DISPLAY=":" + self._first_line_of("Xvfb", "-displayfd", "1", "-noreset", "-screen", "0", "1280x1024x24"),
             XDG_RUNTIME_DIR=self.home.name,
             HOME=self.home.name,
             QT_QPA_PLATFORM="xcb",
