@@ -8,6 +8,7 @@
 #include "core/SafeFile.h"
 #include "core/TestFile.h"
 
+#include <cerrno>
 #include <cstdint>
 #include <iomanip>
 #include <sstream>
@@ -112,7 +113,10 @@ std::vector<std::string> RecoveryFile::Read() const {
 void RecoveryFile::Write(std::string_view content) const {
     const auto& [beside, usersOwn] = places;
     try {
-        ReplacePrivately(IsClosedToUser(beside) ? fs::path() : beside, content);
+        if (IsClosedToUser(beside)) {
+            throw FileError("cannot replace another user's file", EACCES);
+        }
+        ReplacePrivately(beside, content);
         RemoveFile(usersOwn);
     } catch (const FileError&) {
         if (usersOwn.empty()) {

@@ -251,6 +251,13 @@ TEST_F(RecoveryFileTest, WhatAnotherUserTypesIsLeftAlone) {
         PutContents(folder / "test.cpd.recovery-2", "kept");
         file.RemoveKept();
         EXPECT_TRUE(others()) << "only the user's own one goes";
+        Program().userDataFolder.clear();
+        try {
+            RecoveryFile(folder / "test.cpd").Write("typed");
+            ADD_FAILURE() << "it has no place";
+        } catch (const FileError& error) {
+            EXPECT_STREQ(error.what(), "cannot replace another user's file: Permission denied");
+        }
     }
     fs::permissions(folder / "test.cpd.recovery", fs::perms::owner_read);
     EXPECT_EQ(Contents(folder / "test.cpd.recovery"), "of somebody else");

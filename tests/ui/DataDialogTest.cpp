@@ -144,22 +144,18 @@ TEST_F(DataDialog, ACommentCutInItsMiddleLeavesTheCursorThere) {
 }
 
 TEST_F(DataDialog, PastedLinesBecomeOneInABoxOfOneLine) {
-    QApplication::clipboard()->setText("Alder\nCreek\r\nFarms");
+    const QString lines = "Alder\nCreek\r\nFarms";
     QLineEdit& box = Box("txtBoxClientName");
-    box.selectAll();
-    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    PasteOver(box, lines);
     EXPECT_EQ(box.text(), "Alder Creek Farms");
     auto& list = Get<QComboBox>("comboSoilSlope");
-    list.lineEdit()->selectAll();
-    QTest::keyClick(&list, Qt::Key_V, Qt::ControlModifier);
+    PasteOver(*list.lineEdit(), lines);
     EXPECT_EQ(list.currentText(), "Alder Creek Farms");
 }
 
 TEST_F(DataDialog, APastedTextIsCutToo) {
-    QApplication::clipboard()->setText(QString(2500, 'a'));
     QLineEdit& box = Box("txtBoxOperatorName");
-    box.selectAll();
-    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    PasteOver(box, QString(2500, 'a'));
     EXPECT_EQ(box.text(), QString(35, 'a'));
     auto& comments = Get<QPlainTextEdit>("txtBoxOtherComments");
     comments.selectAll();

@@ -57,10 +57,8 @@ TEST_F(SoilIntakeDialog, ShowsTheTableUnderItsLabels) {
 }
 
 TEST_F(SoilIntakeDialog, PastedLinesBecomeOne) {
-    QApplication::clipboard()->setText("Fine\r\nSand\n");
     QLineEdit& soil = Box("txtBoxSoil1");
-    soil.selectAll();
-    QTest::keyClick(&soil, Qt::Key_V, Qt::ControlModifier);
+    PasteOver(soil, "Fine\r\nSand\n");
     EXPECT_EQ(soil.text(), "Fine Sand ");
 }
 

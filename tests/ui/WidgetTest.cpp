@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -63,6 +64,12 @@ void WidgetTest::ShowActive(QWidget& window) {
     window.show();
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+void WidgetTest::PasteOver(QLineEdit& box, const QString& text) {
+    QApplication::clipboard()->setText(text);
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
 }
 
 Lines WidgetTest::Items(const QMenu& menu) {

@@ -4,6 +4,7 @@
 
 #include "tests/support/WindowTest.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QWidget>
 #include <functional>
@@ -27,6 +28,9 @@ protected:
         }
         return *control;
     }
+
+    // Pastes the text in place of the box's own.
+    static void PasteOver(QLineEdit& box, const QString& text);
 
     // The captions of a menu, without the underlined letter, and behind each its shortcut; "-" is a
     // separator.
