@@ -28,19 +28,24 @@ CenterPivotTest& Test() {
 // The depths of the counted cups, in cup order.
 std::vector<float> Depths() {
     std::vector<float> depths;
-    for (int i = 1; i <= PivotResults().CupCount; ++i) {
-        depths.push_back(CupDepths()[static_cast<std::size_t>(i)].Depth);
+    depths.reserve(CountedCupDepths().size());
+    for (const CupDepth& cup : CountedCupDepths()) {
+        depths.push_back(cup.Depth);
     }
     return depths;
 }
 
 void ComputeDepths() {
+    float diameter = 0;
     for (int i = 1; i <= PivotResults().CupCount; ++i) {
         const PivotGauge& gauge = Test().Gauges[i];
         CupDepth& cup = CupDepths()[static_cast<std::size_t>(i)];
         cup.Sequence = gauge.Sequence;
         cup.Footage = gauge.Footage;
-        cup.Depth = DepthFromVolume(gauge.Volume, ToSingle(Test().GuageDiameter.Whole()));
+        if (i == 1) { // not before: of a diameter that is no number, the first cup tells the place
+            diameter = ToSingle(Test().GuageDiameter.Whole());
+        }
+        cup.Depth = DepthFromVolume(gauge.Volume, diameter);
     }
 }
 
@@ -48,7 +53,7 @@ void ComputeDepths() {
 // Source: D. F. Heermann and P. R. Hein, "Performance Characteristics of Self-Propelled Center-Pivot
 // Sprinkler Irrigation System", 1968.
 float HeermannHeinUniformity() {
-    const auto cups = std::span(CupDepths()).subspan(1, static_cast<std::size_t>(PivotResults().CupCount));
+    const auto cups = CountedCupDepths();
     long double weights = 0;
     long double products = 0;
     for (const CupDepth& cup : cups) {
@@ -111,6 +116,10 @@ CenterPivotResults& PivotResults() {
 CupDepthTable& CupDepths() {
     static CupDepthTable depths;
     return depths;
+}
+
+std::span<const CupDepth> CountedCupDepths() {
+    return std::span(CupDepths()).subspan(1, static_cast<std::size_t>(PivotResults().CupCount));
 }
 
 void ResetCenterPivot() {

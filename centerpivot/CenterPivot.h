@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 
 // The arithmetic of a center-pivot catch-can test. The routines take their input from the program's current
 // CenterPivotTest and leave their results in the two globals below, which report, export and command line
@@ -41,6 +42,8 @@ struct CenterPivotResults {
 
 [[nodiscard]] CenterPivotResults& PivotResults();
 [[nodiscard]] CupDepthTable& CupDepths();
+// Those of the counted cups, in cup order.
+[[nodiscard]] std::span<const CupDepth> CountedCupDepths();
 
 // Puts results and depths back to program start: all zero.
 void ResetCenterPivot();

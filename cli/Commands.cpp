@@ -86,8 +86,8 @@ std::string ResultsJsonText(const Options& options, const std::filesystem::path&
 // A report as the program builds it into a box.
 struct Report {
     MemoryRichTextBox box;
+    ColorRunTable colorRuns;
     bool isMade = false;
-    Json colorRuns = Json::array();
 };
 
 Json ColorRunsJson(const ColorRunTable& table) {
@@ -111,7 +111,7 @@ Report MakeReport(const TestKind& kind) {
     const std::string text = report.box.Text();
     report.isMade = !text.empty() && text != kReportNotCreated;
     if (report.isMade) {
-        report.colorRuns = ColorRunsJson(builder.ColorRuns());
+        report.colorRuns = builder.ColorRuns();
     }
     return report;
 }
@@ -145,12 +145,12 @@ int RunResults(const Options& options) {
     return OverTests(
         options, "",
         [&options](const Session& session, const TestKind& kind, const std::filesystem::path& file) {
-            Results results = kind.calculate();
             if (!options.json) {
-                return FileResult{kDone, ResultsHeader(options, file) + results.listing};
+                return FileResult{kDone, ResultsHeader(options, file) + kind.resultsListing()};
             }
-            results.json["messages"] = session.Messages();
-            return FileResult{kDone, ResultsJsonText(options, file, results.json)};
+            Json results = kind.resultsJson();
+            results["messages"] = session.Messages();
+            return FileResult{kDone, ResultsJsonText(options, file, results)};
         });
 }
 
@@ -176,7 +176,7 @@ int RunReport(const Options& options) {
                          if (options.json) {
                              result.text = JsonDocument({{"ok", report.isMade},
                                                          {"text", ToUtf8(report.box.Text())},
-                                                         {"colorRuns", report.colorRuns},
+                                                         {"colorRuns", ColorRunsJson(report.colorRuns)},
                                                          {"messages", session.Messages()}});
                          } else if (report.isMade) {
                              result.text = Formatted(report, options.format);

@@ -91,14 +91,17 @@ void WriteOutput(const std::filesystem::path& path, std::string_view content, Fl
     }
 }
 
-void RefuseToOverwriteInput(const std::filesystem::path& output,
-                            std::span<const std::filesystem::path> inputs) {
-    for (const std::filesystem::path& input : inputs) {
-        std::error_code error;
-        if (std::filesystem::equivalent(output, input, error) &&
-            !std::filesystem::is_character_file(output, error)) {
-            throw CommandError(kWrongUsage, output.native(), "the output would overwrite the input");
+Inputs::Inputs(std::span<const std::filesystem::path> files) {
+    for (const std::filesystem::path& file : files) {
+        if (const auto identity = IdentityOf(file)) {
+            identities.insert(*identity);
         }
+    }
+}
+
+void Inputs::RefuseToOverwrite(const std::filesystem::path& output) const {
+    if (const auto identity = IdentityOf(output); identity && identities.contains(*identity)) {
+        throw CommandError(kWrongUsage, output.native(), "the output would overwrite the input");
     }
 }
 

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "core/FileIdentity.h"
 #include "core/SafeFile.h"
 
 #include <filesystem>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,9 +30,16 @@ void PrintComplaint(std::string_view subject, std::string_view reason);
 // Replaces a file as a whole. Raises CommandError.
 void WriteOutput(const std::filesystem::path& path, std::string_view content, Flush flush);
 
-// Raises CommandError when the output is one of the files that are read: nothing may be overwritten by what
-// is made from it.
-void RefuseToOverwriteInput(const std::filesystem::path& output,
-                            std::span<const std::filesystem::path> inputs);
+// The files that a call reads. Nothing may be overwritten by what is made from it.
+class Inputs {
+public:
+    explicit Inputs(std::span<const std::filesystem::path> files);
+
+    // Raises CommandError when the output is one of them, under whatever name.
+    void RefuseToOverwrite(const std::filesystem::path& output) const;
+
+private:
+    std::set<FileIdentity> identities;
+};
 
 } // namespace orvel::cli

@@ -60,7 +60,7 @@ int RunDump(const Options& options) {
 
 int RunBuild(const Options& options) {
     const std::filesystem::path& file = options.files.front();
-    RefuseToOverwriteInput(options.output, options.files);
+    Inputs(options.files).RefuseToOverwrite(options.output);
     try {
         const Json json = ParseJson(ReadInput(file));
         const TestKind& kind = KindToBuild(options, json);

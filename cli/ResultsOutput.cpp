@@ -68,12 +68,18 @@ std::string CupLine(std::initializer_list<std::string_view> columns) {
     return line + "\n";
 }
 
-// Puts out results as far as they are Singles.
+// Results as far as they are Singles.
 template <class Owner>
-void AddSingles(Results& output, const Owner& results, std::span<const NamedResult<Owner>> named) {
+void AddSingles(Json& json, const Owner& results, std::span<const NamedResult<Owner>> named) {
     for (const auto& [name, value] : named) {
-        output.json[name] = JsonSingle(results.*value);
-        output.listing += ResultLine(name, NumberText(results.*value));
+        json[name] = JsonSingle(results.*value);
+    }
+}
+
+template <class Owner>
+void AddSingles(std::string& listing, const Owner& results, std::span<const NamedResult<Owner>> named) {
+    for (const auto& [name, value] : named) {
+        listing += ResultLine(name, NumberText(results.*value));
     }
 }
 
@@ -96,46 +102,64 @@ std::optional<float> LastTowerRate() {
 
 } // namespace
 
-Results CenterPivotResultsOutput() {
+Json CenterPivotResultsJson() {
     CalculateCenterPivot();
     const std::optional<float> rate = LastTowerRate();
     const CenterPivotResults& results = PivotResults();
-    const std::string title = ToUtf8(results.ReportTitle.Trimmed());
-    Results output{{{"kind", kCenterPivot}, {"ReportTitle", title}, {"CupCount", results.CupCount}}, ""};
-    output.listing = ResultLine("ReportTitle", title);
-    output.listing += ResultLine("CupCount", std::to_string(results.CupCount));
-    AddSingles<CenterPivotResults>(output, results, kPivotResults);
-    output.json[kLastTowerRateName] = rate ? JsonSingle(*rate) : Json(nullptr);
-    output.listing += ResultLine(kLastTowerRateName, rate ? NumberText(*rate) : "not computed");
-    output.listing += CupLine({"Sequence", "Footage", "Depth"});
+    Json json = {{"kind", kCenterPivot},
+                 {"ReportTitle", ToUtf8(results.ReportTitle.Trimmed())},
+                 {"CupCount", results.CupCount}};
+    AddSingles<CenterPivotResults>(json, results, kPivotResults);
+    json[kLastTowerRateName] = rate ? JsonSingle(*rate) : Json(nullptr);
     Json cups = Json::array();
-    for (const CupDepth& cup :
-         std::span(CupDepths()).subspan(1, static_cast<std::size_t>(results.CupCount))) {
+    for (const CupDepth& cup : CountedCupDepths()) {
         cups.push_back({{"Sequence", JsonSingle(cup.Sequence)},
                         {"Footage", JsonSingle(cup.Footage)},
                         {"Depth", JsonSingle(cup.Depth)}});
-        output.listing += CupLine({NumberText(cup.Sequence), NumberText(cup.Footage), NumberText(cup.Depth)});
     }
-    output.json["CupDepths"] = std::move(cups);
-    return output;
+    json["CupDepths"] = std::move(cups);
+    return json;
 }
 
-Results SolidSetResultsOutput() {
+std::string CenterPivotResultsListing() {
+    CalculateCenterPivot();
+    const std::optional<float> rate = LastTowerRate();
+    const CenterPivotResults& results = PivotResults();
+    std::string listing = ResultLine("ReportTitle", ToUtf8(results.ReportTitle.Trimmed()));
+    listing += ResultLine("CupCount", std::to_string(results.CupCount));
+    AddSingles<CenterPivotResults>(listing, results, kPivotResults);
+    listing += ResultLine(kLastTowerRateName, rate ? NumberText(*rate) : "not computed");
+    listing += CupLine({"Sequence", "Footage", "Depth"});
+    for (const CupDepth& cup : CountedCupDepths()) {
+        listing += CupLine({NumberText(cup.Sequence), NumberText(cup.Footage), NumberText(cup.Depth)});
+    }
+    return listing;
+}
+
+Json SolidSetResultsJson() {
     CalculateSolidSet();
     const SolidSetResults& results = SolidResults();
-    Results output{{{"kind", kSolidSet}, {"SolidSetCupCount", results.SolidSetCupCount}}, ""};
-    output.listing = ResultLine("SolidSetCupCount", std::to_string(results.SolidSetCupCount));
+    Json json = {{"kind", kSolidSet}, {"SolidSetCupCount", results.SolidSetCupCount}};
     Json depths = Json::array();
-    std::string cupLines = CupLine({"Cup", "Depth"});
-    int cup = 0;
     for (const float depth : SolidSetCountedDepths()) {
         depths.push_back(JsonSingle(depth));
-        cupLines += CupLine({std::to_string(++cup), NumberText(depth)});
     }
-    output.json["SolidSetDepths"] = std::move(depths);
-    AddSingles<SolidSetResults>(output, results, kSolidResults);
-    output.listing += cupLines;
-    return output;
+    json["SolidSetDepths"] = std::move(depths);
+    AddSingles<SolidSetResults>(json, results, kSolidResults);
+    return json;
+}
+
+std::string SolidSetResultsListing() {
+    CalculateSolidSet();
+    const SolidSetResults& results = SolidResults();
+    std::string listing = ResultLine("SolidSetCupCount", std::to_string(results.SolidSetCupCount));
+    AddSingles<SolidSetResults>(listing, results, kSolidResults);
+    listing += CupLine({"Cup", "Depth"});
+    int cup = 0;
+    for (const float depth : SolidSetCountedDepths()) {
+        listing += CupLine({std::to_string(++cup), NumberText(depth)});
+    }
+    return listing;
 }
 
 } // namespace orvel::cli

@@ -2,12 +2,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "cli/TestKinds.h"
+#include "cli/Json.h"
 
-// Runs the calculation of the open test and puts its results out.
+#include <string>
+
+// All of these run the calculation of the open test and put its results out.
 namespace orvel::cli {
 
-[[nodiscard]] Results CenterPivotResultsOutput();
-[[nodiscard]] Results SolidSetResultsOutput();
+// For programs.
+[[nodiscard]] Json CenterPivotResultsJson();
+[[nodiscard]] Json SolidSetResultsJson();
+
+// For people: one line for each result and each cup, numbers with "." in every locale; UTF-8.
+[[nodiscard]] std::string CenterPivotResultsListing();
+[[nodiscard]] std::string SolidSetResultsListing();
 
 } // namespace orvel::cli

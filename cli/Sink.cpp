@@ -13,9 +13,10 @@ namespace orvel::cli {
 Sink::Sink(const Options& callOptions, std::string_view extensionOfOutputs)
     : options(callOptions), extension(extensionOfOutputs) {
     if (!options.output.empty()) {
-        RefuseToOverwriteInput(options.output, options.files);
+        Inputs(options.files).RefuseToOverwrite(options.output);
     }
     if (!options.outputDirectory.empty()) {
+        const Inputs inputs(options.files);
         std::set<std::filesystem::path> outputs;
         for (const std::filesystem::path& file : options.files) {
             const std::filesystem::path output = OutputFor(file);
@@ -24,7 +25,7 @@ Sink::Sink(const Options& callOptions, std::string_view extensionOfOutputs)
                                    "another file would be written to " + SystemToUtf8(output.native()) +
                                        " too");
             }
-            RefuseToOverwriteInput(output, options.files);
+            inputs.RefuseToOverwrite(output);
         }
     }
 }

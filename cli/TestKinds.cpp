@@ -54,10 +54,10 @@ std::string BuildRecord(const Json& json) {
 }
 
 constexpr std::array<TestKind, 2> kKinds = {{
-    {kCenterPivot, "cpd", LoadCenterPivot, CheckCenterPivotData, CenterPivotResultsOutput,
-     &ReportBuilder::BuildCenterPivotReport, BuildCenterPivotSummary, CenterPivotListingText,
-     DumpFile<CenterPivotTest>, BuildRecord<CenterPivotTest, NewCenterPivotTest>},
-    {kSolidSet, "ssd", LoadSolidSet, SolidSetDataCheck, SolidSetResultsOutput,
+    {kCenterPivot, "cpd", LoadCenterPivot, CheckCenterPivotData, CenterPivotResultsJson,
+     CenterPivotResultsListing, &ReportBuilder::BuildCenterPivotReport, BuildCenterPivotSummary,
+     CenterPivotListingText, DumpFile<CenterPivotTest>, BuildRecord<CenterPivotTest, NewCenterPivotTest>},
+    {kSolidSet, "ssd", LoadSolidSet, SolidSetDataCheck, SolidSetResultsJson, SolidSetResultsListing,
      &ReportBuilder::BuildSolidSetReport, BuildSolidSetSummary, SolidSetListingText, DumpFile<SolidSetTest>,
      BuildRecord<SolidSetTest, NewSolidSetTest>},
 }};

@@ -10,13 +10,6 @@
 
 namespace orvel::cli {
 
-// The results of a calculation, for programs and for people.
-struct Results {
-    Json json;
-    // One line for each result and each cup, numbers with "." in every locale; UTF-8.
-    std::string listing;
-};
-
 // What the commands do with one kind of test. All of it works on the program's state, which Load fills.
 struct TestKind {
     const char* name;      // as the program spells it
@@ -25,7 +18,9 @@ struct TestKind {
     // Makes a test file the program's open test. Raises FileError.
     void (*load)(const std::filesystem::path& file);
     bool (*check)();
-    Results (*calculate)();
+    // Both run the calculation first.
+    Json (*resultsJson)();
+    std::string (*resultsListing)();
     void (ReportBuilder::*buildReport)();
     std::string (*buildSummary)();
     std::string (*listingText)();

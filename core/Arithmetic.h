@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 // Arithmetic whose faults are errors. Formulas are written in `long double` (80-bit extended precision), so
@@ -24,5 +25,12 @@ namespace orvel {
 // The nearest integer, ties to even. Raises Overflow outside the type.
 [[nodiscard]] std::int16_t RoundToInteger(long double value);
 [[nodiscard]] std::int32_t RoundToLong(long double value);
+
+// Half of the number, ties to even: of 3 it is 2, of 5 it is 2.
+[[nodiscard]] constexpr std::size_t HalfRoundedToEven(std::size_t number) {
+    const std::size_t half = number / 2;
+    const bool isTie = number % 2 == 1;
+    return isTie && half % 2 == 1 ? half + 1 : half;
+}
 
 } // namespace orvel

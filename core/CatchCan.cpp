@@ -16,14 +16,13 @@ constexpr double kInchesPerCentimetre = 0.393700787;
 
 // Ascending, by a gap that halves (ties to even: 3 becomes 2, 1 becomes 0); equal depths are not exchanged.
 void ShellSort(std::vector<float>& depths) {
-    const auto count = static_cast<std::int32_t>(depths.size());
-    for (std::int32_t gap = RoundToLong(count / 2.0L); gap >= 1; gap = RoundToLong(gap / 2.0L)) {
+    for (std::size_t gap = HalfRoundedToEven(depths.size()); gap >= 1; gap = HalfRoundedToEven(gap)) {
         bool hasExchanged = true;
         while (hasExchanged) {
             hasExchanged = false;
-            for (std::size_t i = 0; i + static_cast<std::size_t>(gap) < depths.size(); ++i) {
+            for (std::size_t i = 0; i + gap < depths.size(); ++i) {
                 float& lower = depths[i];
-                float& upper = depths[i + static_cast<std::size_t>(gap)];
+                float& upper = depths[i + gap];
                 if (lower > upper) {
                     std::swap(lower, upper);
                     hasExchanged = true;

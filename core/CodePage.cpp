@@ -121,8 +121,16 @@ std::string ToUtf8(std::string_view text) {
     const CodePage& page = CurrentCodePage();
     std::string utf8;
     utf8.reserve(text.size());
-    for (const char character : text) {
-        AppendUtf8(utf8, page.ToUnicode(character));
+    // Most of a text is ASCII, which is the same in both.
+    const auto isAscii = [](char character) { return Byte(character) < kHalf; };
+    while (!text.empty()) {
+        const auto length = static_cast<std::size_t>(std::ranges::find_if_not(text, isAscii) - text.begin());
+        utf8 += text.substr(0, length);
+        text.remove_prefix(length);
+        if (!text.empty()) {
+            AppendUtf8(utf8, page.ToUnicode(text.front()));
+            text.remove_prefix(1);
+        }
     }
     return utf8;
 }

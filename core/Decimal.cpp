@@ -21,10 +21,10 @@ Decimal FromScientific(std::string_view text) {
     Decimal number;
     number.isNegative = text.starts_with('-');
     const std::size_t exponentMark = text.find('e');
-    for (const char character : text.substr(0, exponentMark)) {
-        if (character >= '0' && character <= '9') {
-            number.digits += character;
-        }
+    const std::string_view digits = text.substr(0, exponentMark).substr(number.isNegative ? 1 : 0);
+    number.digits = digits.front();
+    if (digits.size() > 1) {
+        number.digits += digits.substr(2); // behind the point
     }
     std::string_view exponent = text.substr(exponentMark + 1);
     if (exponent.starts_with('+')) {
@@ -49,21 +49,17 @@ Decimal Written(Float value, Precision... precision) {
 
 } // namespace
 
-char Decimal::DigitAt(long power) const {
-    const long index = point - 1 - power;
-    return index >= 0 && index < static_cast<long>(digits.size()) ? digits[static_cast<std::size_t>(index)]
-                                                                  : '0';
-}
-
 void Decimal::Normalise() {
     const std::size_t first = digits.find_first_not_of('0');
     if (first == std::string::npos) {
         *this = Decimal{isNegative, {}, 0};
         return;
     }
-    digits.erase(0, first);
-    point -= static_cast<long>(first);
-    digits.erase(digits.find_last_not_of('0') + 1);
+    if (first > 0) {
+        digits.erase(0, first);
+        point -= static_cast<long>(first);
+    }
+    digits.resize(digits.find_last_not_of('0') + 1);
 }
 
 Decimal ShortestDecimal(float value) {
@@ -78,28 +74,26 @@ Decimal SignificantDecimal(double value) {
     return Written(value, kDoubleDigits - 1);
 }
 
-Decimal RoundedHalfAway(const Decimal& number, long decimals) {
-    Decimal rounded = number;
+Decimal RoundedHalfAway(Decimal number, long decimals) {
     const long kept = number.point + decimals;
     if (kept < static_cast<long>(number.digits.size())) {
         const bool roundsUp = number.DigitAt(-decimals - 1) >= '5';
-        rounded.digits.resize(kept > 0 ? static_cast<std::size_t>(kept) : 0);
-        if (roundsUp) {
-            // The zero in front takes the carry of 9.99.
-            rounded.digits.insert(0, 1, '0');
-            rounded.point += 1;
-            std::size_t last = rounded.digits.size() - 1;
-            while (rounded.digits[last] == '9') {
-                rounded.digits[last--] = '0';
-            }
-            ++rounded.digits[last];
+        number.digits.resize(kept > 0 ? static_cast<std::size_t>(kept) : 0);
+        if (!roundsUp) {
+            number.Normalise();
+        } else if (const auto last = number.digits.find_last_not_of('9'); last != std::string::npos) {
+            number.digits.resize(last + 1);
+            ++number.digits[last];
+        } else {
+            // 9.99 carries into a new digit.
+            number.digits = "1";
+            number.point += 1;
         }
-        rounded.Normalise();
     }
-    if (rounded.IsZero()) {
-        rounded.isNegative = false;
+    if (number.IsZero()) {
+        number.isNegative = false;
     }
-    return rounded;
+    return number;
 }
 
 } // namespace orvel

@@ -17,7 +17,12 @@ struct Decimal {
     [[nodiscard]] bool IsZero() const { return digits.empty(); }
 
     // The digit that stands for ten to the power of `power`; '0' outside the digits.
-    [[nodiscard]] char DigitAt(long power) const;
+    [[nodiscard]] char DigitAt(long power) const {
+        const long index = point - 1 - power;
+        return index >= 0 && index < static_cast<long>(digits.size())
+                   ? digits[static_cast<std::size_t>(index)]
+                   : '0';
+    }
     // Drops leading and trailing zeros of `digits`.
     void Normalise();
 };
@@ -30,6 +35,6 @@ struct Decimal {
 [[nodiscard]] Decimal SignificantDecimal(double value);
 
 // Rounded to `decimals` digits behind the decimal point, halves away from zero. Zero has no sign.
-[[nodiscard]] Decimal RoundedHalfAway(const Decimal& number, long decimals);
+[[nodiscard]] Decimal RoundedHalfAway(Decimal number, long decimals);
 
 } // namespace orvel

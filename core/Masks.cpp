@@ -6,6 +6,7 @@
 #include "core/RunTimeError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace orvel {
 
@@ -54,7 +55,7 @@ std::string Write(Decimal number, std::string_view maskText, const NumberLocale&
     if (mask.isPercent) {
         number.point += 2;
     }
-    number = RoundedHalfAway(number, mask.mostDecimals);
+    number = RoundedHalfAway(std::move(number), mask.mostDecimals);
 
     std::string text = number.isNegative ? "-" : "";
     const long integerDigits = std::max(number.IsZero() ? 0 : number.point, mask.leastIntegerDigits);

@@ -167,8 +167,8 @@ Float ToFloat(std::string_view text) {
     if (number.point > std::numeric_limits<Float>::max_exponent10 + 1) {
         Raise(ErrorNumber::Overflow);
     }
-    const std::string written =
-        (number.isNegative ? "-0." : "0.") + number.digits + "e" + std::to_string(number.point);
+    std::string written = number.isNegative ? "-0." : "0.";
+    written.append(number.digits).append("e").append(std::to_string(number.point));
     Float value = 0;
     const auto result = std::from_chars(written.data(), written.data() + written.size(), value);
     if (result.ec == std::errc::result_out_of_range && number.point < 0) {

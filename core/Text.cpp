@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/Text.h"
 
+#include "core/Arithmetic.h"
+
 #include <algorithm>
 
 namespace orvel {
@@ -9,12 +11,6 @@ namespace orvel {
 namespace {
 
 constexpr char kBlank = ' ';
-
-std::size_t HalfRoundedToEven(std::size_t number) {
-    const std::size_t half = number / 2;
-    const bool isTie = number % 2 == 1;
-    return isTie && half % 2 == 1 ? half + 1 : half;
-}
 
 } // namespace
 
@@ -30,26 +26,25 @@ std::string_view Trim(std::string_view text) {
 }
 
 std::string PadText(std::string_view text, std::size_t width, char alignment, char fill) {
-    std::string padded{Trim(text).substr(0, width)};
-    const std::size_t missing = width - padded.size();
+    const std::string_view kept = Trim(text).substr(0, width);
+    const std::size_t missing = width - kept.size();
+    std::string padded;
     switch (alignment) {
     case 'R':
     case 'r':
-        padded.append(missing, fill);
+        padded.append(kept).append(missing, fill);
         break;
     case 'L':
     case 'l':
-        padded.insert(0, missing, fill);
+        padded.append(missing, fill).append(kept);
         break;
     case 'C':
-    case 'c': {
-        const std::size_t side = HalfRoundedToEven(missing);
-        padded.insert(0, side, fill);
-        padded.append(side, fill);
+    case 'c':
+        padded.append(HalfRoundedToEven(missing), fill).append(kept);
         padded.resize(width, fill);
         break;
-    }
     default:
+        padded = kept;
         break;
     }
     return padded;

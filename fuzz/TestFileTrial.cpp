@@ -219,14 +219,15 @@ void TestFileTrial::TryChecks() {
 
 void TestFileTrial::TryResults() {
     StartAnew();
-    const cli::Results results = kind.calculate();
-    Require(IsSameJson(results.json), "results read back as the same");
-    Require(results.json[tried.countName] == tried.countCups().value_or(0),
-            "cups are those before two zeros");
+    const cli::Json results = kind.resultsJson();
+    Require(IsSameJson(results), "results read back as the same");
+    Require(results[tried.countName] == tried.countCups().value_or(0), "cups are those before two zeros");
     Require(Program().shownError.has_value() == !boxes.Messages().empty(), "an error is shown");
     Require(boxes.Messages().size() <= 1, "an error ends the calculation");
     Program().shownError.reset();
-    Require(kind.calculate().json == results.json, "a calculation that is made again is the same");
+    Require(kind.resultsJson() == results, "a calculation that is made again is the same");
+    Require(kind.resultsListing().find(std::to_string(tried.countCups().value_or(0))) != std::string::npos,
+            "the listing says how many cups there are");
     Require(IsOnlyTrimmed(record, tried.record(), tried.fields), "a calculation only trims");
 }
 

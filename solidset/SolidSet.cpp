@@ -18,9 +18,13 @@ SolidSetTest& Test() {
 }
 
 void ComputeDepths() {
+    if (SolidResults().SolidSetCupCount == 0) {
+        return;
+    }
+    const float diameter = ToSingle(Test().GuageDiameter.Whole());
     for (int i = 1; i <= SolidResults().SolidSetCupCount; ++i) {
         SolidResults().SolidSetDepths[static_cast<std::size_t>(i)] =
-            DepthFromVolume(Test().Gauges[i].Volume, ToSingle(Test().GuageDiameter.Whole()));
+            DepthFromVolume(Test().Gauges[i].Volume, diameter);
     }
 }
 

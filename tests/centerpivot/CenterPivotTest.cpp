@@ -341,6 +341,17 @@ TEST_F(CenterPivotCalculation, ReadsEntriesByTheLocaleAndPlainNumbersAlways) {
     EXPECT_EQ(Results().IrrigatedAcres, 151.634491F);
 }
 
+TEST_F(CenterPivotCalculation, ADiameterThatIsNoNumberEndsItAtTheFirstCup) {
+    FillTest();
+    ResetCenterPivot();
+    Test().GuageDiameter = "wide";
+    CalculateWithTypeMismatch();
+    EXPECT_EQ(Row(1).Sequence, Test().Gauges[1].Sequence);
+    EXPECT_EQ(Row(1).Footage, Test().Gauges[1].Footage);
+    EXPECT_EQ(Row(1).Depth, 0.0F);
+    EXPECT_EQ(Row(2).Footage, 0.0F);
+}
+
 TEST_F(CenterPivotCalculation, ResetsToProgramStart) {
     FillTest();
     CalculateCenterPivot();

@@ -256,7 +256,8 @@ TEST_F(BadInput, AnOutputNeverOverwritesItsInput) {
     const std::string file = Write("a.cpd");
     const std::string before = Contents(file);
     std::filesystem::create_symlink(file, folder / "link");
-    for (const std::string& output : {file, (folder / "link").native()}) {
+    std::filesystem::create_hard_link(file, folder / "twin");
+    for (const std::string& output : {file, (folder / "link").native(), (folder / "twin").native()}) {
         const RunResult run = RunProgram({"dump", file, "-o", output});
         EXPECT_EQ(run.status, 2);
         EXPECT_EQ(run.err, "orvel-cli: " + output + ": the output would overwrite the input\n");

@@ -166,5 +166,13 @@ TEST(Arithmetic, RoundsIntoALongOnlyWithinItsBounds) {
     }
 }
 
+TEST(Arithmetic, HalfOfANumberGoesToEven) {
+    const std::array<std::size_t, 8> halves = {0, 0, 1, 2, 2, 2, 3, 4};
+    for (std::size_t i = 0; i < halves.size(); ++i) {
+        EXPECT_EQ(HalfRoundedToEven(i), halves.at(i)) << i;
+    }
+    EXPECT_EQ(HalfRoundedToEven(298), 149U);
+}
+
 } // namespace
 } // namespace orvel

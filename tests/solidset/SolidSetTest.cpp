@@ -102,6 +102,14 @@ TEST_F(SolidSetCalculation, SpreadsAVolumeOverTheCupsOpening) {
     }
 }
 
+TEST_F(SolidSetCalculation, WithoutACupNobodyReadsTheDiameter) {
+    Test().GuageDiameter = "wide";
+    SetVolumes({});
+    CalculateWith(6, "Overflow");
+    SetVolumes({100});
+    CalculateWith(13, "Type mismatch");
+}
+
 TEST_F(SolidSetCalculation, FindsTheLargestDepthWhereverItStands) {
     Test().GuageDiameter = "10";
     for (const std::vector<float>& volumes : {std::vector<float>{200, 1, 2}, {1, 200, 2}, {1, 2, 200}}) {
