@@ -23,9 +23,9 @@ ColorCode DeviationColor(float depth, float average) {
         return kNoColor;
     }
     constexpr long double kDecimals = 10000.0L;
-    constexpr long double kTolerance = 2000.0L;
+    constexpr long double kLeast = 2000.5L; // rounds to more than 2000
     const long double deviation = std::fabs(static_cast<long double>(depth) - average) / average;
-    if (std::round(deviation * kDecimals) <= kTolerance) {
+    if (deviation * kDecimals < kLeast) {
         return kNoColor;
     }
     return depth < average ? kRed : kBlue;

@@ -30,10 +30,6 @@ constexpr int kTicks = 6;
 constexpr int kTickColumns = 10;
 constexpr int kScaleColumns = kTicks * kTickColumns;
 
-std::span<const CupDepth> CountedCups() {
-    return std::span(CupDepths()).subspan(1, static_cast<std::size_t>(PivotResults().CupCount));
-}
-
 // Inches from one tick to the next: the least of 0.01, 0.02, 0.03, 0.05, 0.10, 0.15, 0.20, 0.30, 0.50, 1.00
 // ... by which the scale reaches the largest depth.
 double TickInches(float largest) {
@@ -53,7 +49,7 @@ double TickInches(float largest) {
 
 float LargestDepth() {
     float largest = std::max(PivotResults().AverageDepth, 0.0F);
-    for (const CupDepth& cup : CountedCups()) {
+    for (const CupDepth& cup : CountedCupDepths()) {
         largest = std::max(largest, cup.Depth);
     }
     return largest;
@@ -83,7 +79,8 @@ struct Row {
 
 std::vector<Row> CupRows() {
     std::vector<Row> rows;
-    for (const CupDepth& cup : CountedCups()) {
+    rows.reserve(CountedCupDepths().size());
+    for (const CupDepth& cup : CountedCupDepths()) {
         rows.push_back({NumberOrMark(cup.Footage, "0"), FormatMask(cup.Depth, "0.00"), cup.Depth,
                         DeviationColor(cup.Depth, PivotResults().AverageDepth)});
     }
@@ -128,11 +125,11 @@ struct Graph {
         return ReportLine(line);
     }
 
-    // Ends at the depth; one that is below the scale's zero ends there.
-    [[nodiscard]] std::string Bar(float depth) const {
+    // The axis and the bar, which ends at the depth; one that is below the scale's zero ends there.
+    void AppendBar(std::string& text, float depth) const {
         const double columns = std::round(static_cast<double>(depth) / tickInches * kTickColumns);
         const double drawn = std::clamp(columns, 0.0, double{kScaleColumns});
-        return std::string(static_cast<std::size_t>(drawn), '_') + "|";
+        text.append(kAxis).append(static_cast<std::size_t>(drawn), '_').append("|");
     }
 };
 
@@ -155,13 +152,15 @@ void AppendDataGraph(std::string& text, ColorRunTable& runs) {
     for (const Row& row : rows) {
         text += PadText(row.place, graph.feetColumns, 'L', ' ');
         text += PadText(row.value, graph.depthColumns, 'L', ' ');
-        const std::string bar = std::string{kAxis}.append(graph.Bar(row.depth));
-        runs.Record(text.size() - row.value.size(), row.value.size() + bar.size(), row.color);
-        text += ReportLine(bar);
+        const std::size_t start = text.size() - row.value.size();
+        graph.AppendBar(text, row.depth);
+        runs.Record(start, text.size() - start, row.color);
+        text += kCrLf;
     }
     text += average.place;
     text += RightColumn(average.value, graph.ColumnsBeforeAxis() - average.place.size());
-    text += ReportLine(kAxis, graph.Bar(average.depth));
+    graph.AppendBar(text, average.depth);
+    text += kCrLf;
     text += RuleLine();
 }
 

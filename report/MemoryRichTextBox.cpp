@@ -10,6 +10,8 @@
 #include "report/RtfWriter.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace orvel {
 
@@ -17,7 +19,10 @@ void MemoryRichTextBox::SetText(std::string_view newText) {
     text = newText;
     caretFormat.color.reset();
     caretFormat.isUnderlined = false;
-    formatNumbers.assign(text.size(), NumberOf(caretFormat));
+    runs.clear();
+    if (!text.empty()) {
+        runs.push_back({0, NumberOf(caretFormat)});
+    }
     selectionStart = 0;
     selectionLength = 0;
 }
@@ -27,7 +32,7 @@ void MemoryRichTextBox::Select(std::size_t start, std::size_t length) {
     selectionLength = std::min(length, text.size() - selectionStart);
     if (selectionLength == 0 && !text.empty()) {
         // The caret takes after the character before it.
-        caretFormat = formats[formatNumbers[selectionStart == 0 ? 0 : selectionStart - 1]];
+        caretFormat = formats[RunAt(selectionStart == 0 ? 0 : selectionStart - 1)->format];
     }
 }
 
@@ -80,50 +85,47 @@ std::size_t MemoryRichTextBox::DrawRange(const FormatRange& /*range*/) {
 
 RichDocument MemoryRichTextBox::Document() const {
     RichDocument document;
-    std::size_t begin = 0;
-    const auto appendUpTo = [&](std::size_t end) {
-        while (begin < end) {
-            const FormatNumber number = formatNumbers[begin];
-            std::u32string run;
-            for (; begin < end && formatNumbers[begin] == number; ++begin) {
-                const char32_t character = CurrentCodePage().ToUnicode(text[begin]);
-                run += character < U' ' && character != U'\t' ? U' ' : character;
+    for (auto run = runs.begin(); run != runs.end(); ++run) {
+        const std::size_t end = std::next(run) == runs.end() ? text.size() : std::next(run)->begin;
+        std::u32string line;
+        const auto endLine = [&] {
+            document.paragraphs.back().Append(std::exchange(line, {}), formats[run->format]);
+        };
+        for (std::size_t i = run->begin; i < end; ++i) {
+            const bool isLineFeedOfCrLf = text[i] == '\n' && i > 0 && text[i - 1] == '\r';
+            if (text[i] == '\r' || (text[i] == '\n' && !isLineFeedOfCrLf)) {
+                endLine();
+                document.paragraphs.emplace_back();
+            } else if (!isLineFeedOfCrLf) {
+                const char32_t character = CurrentCodePage().ToUnicode(text[i]);
+                line += character < U' ' && character != U'\t' ? U' ' : character;
             }
-            document.paragraphs.back().Append(run, formats[number]);
         }
-    };
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' || text[i] == '\n') {
-            appendUpTo(i);
-            document.paragraphs.emplace_back();
-            if (std::string_view(text).substr(i).starts_with(kCrLf)) {
-                ++i;
-            }
-            begin = i + 1;
-        }
+        endLine();
     }
-    appendUpTo(text.size());
     return document;
 }
 
 void MemoryRichTextBox::Show(const RichDocument& document) {
     text.clear();
-    formatNumbers.clear();
-    const auto append = [this](std::string_view piece, FormatNumber number) {
+    runs.clear();
+    const auto append = [this](std::string_view piece, FormatNumber format) {
+        if (runs.empty() || runs.back().format != format) {
+            runs.push_back({text.size(), format});
+        }
         text += piece;
-        formatNumbers.resize(text.size(), number);
     };
     for (const Paragraph& paragraph : document.paragraphs) {
         if (&paragraph != &document.paragraphs.front()) {
-            append(kCrLf, formatNumbers.empty() ? NumberOf({}) : formatNumbers.back());
+            append(kCrLf, runs.empty() ? NumberOf({}) : runs.back().format);
         }
         for (const TextRun& run : paragraph.runs) {
-            const FormatNumber number = NumberOf(run.format);
+            const FormatNumber format = NumberOf(run.format);
             for (const char32_t character : run.text) {
                 append(character == kLineBreak
                            ? std::string{kCrLf}
                            : std::string{CurrentCodePage().FromUnicode(character).value_or('?')},
-                       number);
+                       format);
             }
         }
     }
@@ -135,15 +137,12 @@ void MemoryRichTextBox::ChangeSelection(const Change& change) {
         change(caretFormat);
         return;
     }
-    std::map<FormatNumber, FormatNumber> changed;
-    for (std::size_t i = selectionStart; i < selectionStart + selectionLength; ++i) {
-        const auto [entry, isNew] = changed.try_emplace(formatNumbers[i]);
-        if (isNew) {
-            CharacterFormat format = formats[formatNumbers[i]];
-            change(format);
-            entry->second = NumberOf(format);
-        }
-        formatNumbers[i] = entry->second;
+    const std::size_t first = SplitAt(selectionStart);
+    const std::size_t last = SplitAt(selectionStart + selectionLength);
+    for (std::size_t i = first; i < last; ++i) {
+        CharacterFormat format = formats[runs[i].format];
+        change(format);
+        runs[i].format = NumberOf(format);
     }
 }
 
@@ -151,9 +150,8 @@ bool MemoryRichTextBox::HasAllOfSelection(bool CharacterFormat::*property) const
     if (selectionLength == 0) {
         return caretFormat.*property;
     }
-    const auto begin = formatNumbers.begin() + static_cast<std::ptrdiff_t>(selectionStart);
-    return std::all_of(begin, begin + static_cast<std::ptrdiff_t>(selectionLength),
-                       [this, property](FormatNumber number) { return formats[number].*property; });
+    return std::all_of(RunAt(selectionStart), std::next(RunAt(selectionStart + selectionLength - 1)),
+                       [this, property](const FormatRun& run) { return formats[run.format].*property; });
 }
 
 MemoryRichTextBox::FormatNumber MemoryRichTextBox::NumberOf(const CharacterFormat& format) {
@@ -163,6 +161,20 @@ MemoryRichTextBox::FormatNumber MemoryRichTextBox::NumberOf(const CharacterForma
         return static_cast<FormatNumber>(formats.size() - 1);
     }
     return static_cast<FormatNumber>(found - formats.begin());
+}
+
+MemoryRichTextBox::FormatRuns::const_iterator MemoryRichTextBox::RunAt(std::size_t position) const {
+    return std::prev(std::ranges::upper_bound(runs, position, {}, &FormatRun::begin));
+}
+
+std::size_t MemoryRichTextBox::SplitAt(std::size_t position) {
+    const auto found = std::ranges::lower_bound(runs, position, {}, &FormatRun::begin);
+    const auto index = static_cast<std::size_t>(found - runs.begin());
+    const bool isThere = position == text.size() || (found != runs.end() && found->begin == position);
+    if (!isThere) {
+        runs.insert(found, {position, std::prev(found)->format});
+    }
+    return index;
 }
 
 } // namespace orvel

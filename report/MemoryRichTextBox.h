@@ -4,9 +4,8 @@
 
 #include "report/RichTextBox.h"
 
-#include <cstdint>
+#include <cstddef>
 #include <functional>
-#include <map>
 #include <vector>
 
 namespace orvel {
@@ -46,16 +45,26 @@ public:
 
 private:
     using Change = std::function<void(CharacterFormat&)>;
-    using FormatNumber = std::uint32_t;
+    using FormatNumber = std::size_t;
+
+    // Characters of one format, up to the next run or the end of the text.
+    struct FormatRun {
+        std::size_t begin = 0;
+        FormatNumber format = 0;
+    };
+    using FormatRuns = std::vector<FormatRun>;
 
     void Show(const RichDocument& document);
     void ChangeSelection(const Change& change);
     [[nodiscard]] bool HasAllOfSelection(bool CharacterFormat::*property) const;
     [[nodiscard]] FormatNumber NumberOf(const CharacterFormat& format);
+    // The run that the character at that position, which is not behind the text, belongs to.
+    [[nodiscard]] FormatRuns::const_iterator RunAt(std::size_t position) const;
+    // Makes a run begin at that position, unless the text ends there; returns its index.
+    std::size_t SplitAt(std::size_t position);
 
     std::string text;
-    // Each character's format, as an index into the formats seen so far.
-    std::vector<FormatNumber> formatNumbers;
+    FormatRuns runs; // none of an empty text; their formats are indices into those seen so far
     std::vector<CharacterFormat> formats;
     CharacterFormat caretFormat;
     std::size_t selectionStart = 0;

@@ -42,6 +42,7 @@ void ReportBuilder::BuildCenterPivotReport() {
     }
     CalculateCenterPivot();
     UseReportFont(reportRTB);
+    const TextHeldBack held(reportRTB);
     SetFirstSection(CenterPivotHeadingText());
     AppendSection(CenterPivotFieldText());
     AppendSection(CenterPivotSystemText());
@@ -61,6 +62,7 @@ void ReportBuilder::BuildSolidSetReport() {
         }
         UseReportFont(reportRTB);
         CalculateSolidSet();
+        const TextHeldBack held(reportRTB);
         SetFirstSection(SolidSetHeadingText());
         AppendSection(SolidSetFieldText());
         AppendSection(SolidSetSystemText());

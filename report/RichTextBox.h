@@ -47,11 +47,28 @@ public:
     virtual void Load(const std::filesystem::path& file) = 0;
     virtual void Save(const std::filesystem::path& file) const = 0;
 
+    // From now on nobody needs to see new texts and their formats, until ShowHeldBack; once at a time. The
+    // box answers as ever.
+    virtual void HoldBack() {}
+    virtual void ShowHeldBack() {}
+
     // Draws as many whole lines of the range as fit its rectangle, and one at least. Returns the position of
     // the first character that did not fit, or the text's length.
     virtual std::size_t DrawRange(const FormatRange& range) = 0;
     // Frees what drawing has kept for the next page.
     virtual void FreeDrawing() = 0;
+};
+
+// While it lives, a text is put together that is to be seen as a whole.
+class TextHeldBack {
+public:
+    explicit TextHeldBack(RichTextBox& ofText) : box(ofText) { box.HoldBack(); }
+    ~TextHeldBack() { box.ShowHeldBack(); }
+    TextHeldBack(const TextHeldBack&) = delete;
+    TextHeldBack& operator=(const TextHeldBack&) = delete;
+
+private:
+    RichTextBox& box;
 };
 
 } // namespace orvel

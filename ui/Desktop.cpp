@@ -3,19 +3,23 @@
 #include "ui/Desktop.h"
 
 #include "centerpivot/CenterPivotSummary.h"
+#include "core/ProgramState.h"
 #include "core/StartUp.h"
 #include "core/Version.h"
 #include "solidset/SolidSetSummary.h"
 #include "ui/AboutDialog.h"
 #include "ui/CenterPivotDataDialog.h"
 #include "ui/InFront.h"
+#include "ui/Logo.h"
 #include "ui/SoilIntakeDialog.h"
 #include "ui/SolidSetDataDialog.h"
+#include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 #include "ui/UserDataDialog.h"
 
 #include <QApplication>
 #include <QPointer>
+#include <QStandardPaths>
 
 namespace orvel::ui {
 
@@ -31,6 +35,14 @@ void ShowModal(QDialog&& dialog) {
 }
 
 } // namespace
+
+void IntroduceProgram() {
+    QApplication::setApplicationName(kProgramTitle);
+    QApplication::setApplicationVersion(ProgramVersion());
+    QApplication::setWindowIcon(ProgramIcon());
+    Program().userDataFolder =
+        PathFromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "orvel";
+}
 
 Desktop::Desktop() {
     // The program ends when the main window closes, whichever window closes last.

@@ -19,6 +19,10 @@
 
 namespace orvel::ui {
 
+// Tells the toolkit the program's name, version and icon, and the program where it may keep the user's data.
+// There must be a QApplication.
+void IntroduceProgram();
+
 // The desktop program: its services, its windows, and the way from one to the other. There must be one
 // QApplication, and it must outlive it.
 class Desktop : public ProgramWindows {

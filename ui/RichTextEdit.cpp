@@ -24,6 +24,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace orvel::ui {
 
@@ -64,6 +65,23 @@ QByteArray RtfOf(const QMimeData& source) {
     return {};
 }
 
+bool IsAllInFont(const QTextDocument& document, const QTextCharFormat& font) {
+    const auto isIn = [&font](const QTextCharFormat& format) {
+        return format.fontFamilies() == font.fontFamilies();
+    };
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (!isIn(block.charFormat())) {
+            return false;
+        }
+        for (auto each = block.begin(); !each.atEnd(); ++each) {
+            if (!isIn(each.fragment().charFormat())) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 std::string_view BytesOf(const QByteArray& bytes) {
     return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
 }
@@ -98,7 +116,7 @@ void RichTextEdit::SetText(std::string_view text) {
     QTextCursor cursor(fresh.get());
     cursor.setBlockCharFormat(caretFormat);
     cursor.insertText(ParagraphsOf(text), caretFormat);
-    ShowDocument(std::move(fresh));
+    Put(std::move(fresh));
     content = Content{std::string{text}, TextPositions(text)};
     UseFormat(caretFormat);
 }
@@ -108,25 +126,33 @@ void RichTextEdit::Select(std::size_t start, std::size_t length) {
     const Content& current = Current();
     start = std::min(start, current.text.size());
     length = std::min(length, current.text.size() - start);
-    QTextCursor cursor(document());
+    QTextCursor cursor(&Target());
     cursor.setPosition(current.positions.ToDocument(start));
     cursor.setPosition(current.positions.ToDocument(start + length), QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-    if (start == 0) {
-        // With the margin above it.
-        verticalScrollBar()->setValue(0);
+    if (heldBack) {
+        heldSelection = cursor;
+    } else {
+        setTextCursor(cursor);
     }
+    ShowBeginningIfSelected();
     if (length == 0) {
         UseFormat(current.text.empty() ? caretFormat : cursor.charFormat());
     }
 }
 
+void RichTextEdit::ShowBeginningIfSelected() {
+    if (!heldBack && textCursor().selectionStart() == 0) {
+        // With the margin above it.
+        verticalScrollBar()->setValue(0);
+    }
+}
+
 std::size_t RichTextEdit::SelectionStart() const {
-    return Current().positions.ToText(textCursor().selectionStart());
+    return Current().positions.ToText(Selection().selectionStart());
 }
 
 std::size_t RichTextEdit::SelectionLength() const {
-    return Current().positions.ToText(textCursor().selectionEnd()) - SelectionStart();
+    return Current().positions.ToText(Selection().selectionEnd()) - SelectionStart();
 }
 
 bool RichTextEdit::IsSelectionBold() const {
@@ -171,10 +197,12 @@ void RichTextEdit::SetFontName(const std::string& name) {
     const QScopedValueRollback own(isOwnChange, true);
     QTextCharFormat change;
     change.setFontFamilies({ToQt(name)});
-    QTextCursor everything(document());
-    everything.select(QTextCursor::Document);
-    everything.mergeCharFormat(change);
-    document()->clearUndoRedoStacks();
+    if (!IsAllInFont(Target(), change)) {
+        QTextCursor everything(&Target());
+        everything.select(QTextCursor::Document);
+        everything.mergeCharFormat(change);
+    }
+    Target().clearUndoRedoStacks();
     caretFormat.merge(change);
     UseFormat(caretFormat);
 }
@@ -193,17 +221,28 @@ void RichTextEdit::Load(const std::filesystem::path& file) {
     auto fresh = NewDocument();
     QTextCursor cursor(fresh.get());
     Insert(cursor, loaded);
-    ShowDocument(std::move(fresh));
+    Put(std::move(fresh));
     content.reset();
-    if (!document()->isEmpty()) {
-        UseFormat(QTextCursor(document()).charFormat());
+    if (!Target().isEmpty()) {
+        UseFormat(QTextCursor(&Target()).charFormat());
     }
 }
 
 void RichTextEdit::Save(const std::filesystem::path& file) const {
     const WaitingCursor waiting;
     // Not by a cursor, which would have the whole document laid out.
-    SaveRtf(file, Extract(*document(), 0, document()->characterCount() - 1));
+    SaveRtf(file, Extract(Target(), 0, Target().characterCount() - 1));
+}
+
+void RichTextEdit::ShowHeldBack() {
+    isHoldingBack = false;
+    if (heldBack) {
+        const QScopedValueRollback own(isOwnChange, true);
+        ShowDocument(std::move(heldBack));
+        setTextCursor(std::exchange(heldSelection, {}));
+        ShowBeginningIfSelected();
+        UseFormat(caretFormat);
+    }
 }
 
 std::unique_ptr<QTextDocument> RichTextEdit::NewDocument() const {
@@ -211,6 +250,15 @@ std::unique_ptr<QTextDocument> RichTextEdit::NewDocument() const {
     fresh->setDefaultFont(font());
     fresh->setUndoRedoEnabled(false);
     return fresh;
+}
+
+void RichTextEdit::Put(std::unique_ptr<QTextDocument> fresh) {
+    if (isHoldingBack) {
+        heldSelection = QTextCursor(fresh.get());
+        heldBack = std::move(fresh);
+    } else {
+        ShowDocument(std::move(fresh));
+    }
 }
 
 void RichTextEdit::ShowDocument(std::unique_ptr<QTextDocument> fresh) {
@@ -238,8 +286,8 @@ const RichTextEdit::Content& RichTextEdit::Current() const {
 
 RichTextEdit::Content RichTextEdit::ReadDocument() const {
     Content read;
-    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
-        if (block != document()->begin()) {
+    for (QTextBlock block = Target().begin(); block.isValid(); block = block.next()) {
+        if (block != Target().begin()) {
             read.text += kCrLf;
             read.positions.Add(kCrLf.size(), 1);
         }
@@ -262,8 +310,8 @@ RichTextEdit::Content RichTextEdit::ReadDocument() const {
 }
 
 RichDocument RichTextEdit::Selected() const {
-    const QTextCursor cursor = textCursor();
-    return Extract(*document(), cursor.selectionStart(), cursor.selectionEnd());
+    const QTextCursor cursor = Selection();
+    return Extract(Target(), cursor.selectionStart(), cursor.selectionEnd());
 }
 
 bool RichTextEdit::HasAllOfSelection(bool CharacterFormat::*property) const {
@@ -276,16 +324,16 @@ bool RichTextEdit::HasAllOfSelection(bool CharacterFormat::*property) const {
             isEmpty = false;
         }
     }
-    return !isEmpty || ui::FromQt(caretFormat, *document()).*property;
+    return !isEmpty || ui::FromQt(caretFormat, Target()).*property;
 }
 
 void RichTextEdit::ChangeSelection(const QTextCharFormat& change) {
     const QScopedValueRollback own(isOwnChange, true);
-    QTextCursor cursor = textCursor();
+    QTextCursor cursor = Selection();
     if (cursor.hasSelection()) {
         cursor.mergeCharFormat(change);
         // The user undoes the user's changes.
-        document()->clearUndoRedoStacks();
+        Target().clearUndoRedoStacks();
     } else {
         caretFormat.merge(change);
         UseFormat(caretFormat);
@@ -295,7 +343,7 @@ void RichTextEdit::ChangeSelection(const QTextCharFormat& change) {
 void RichTextEdit::UseFormat(const QTextCharFormat& format) {
     const QScopedValueRollback own(isOwnChange, true);
     caretFormat = format;
-    if (!textCursor().hasSelection()) {
+    if (!heldBack && !textCursor().hasSelection()) {
         setCurrentCharFormat(format);
     }
 }
@@ -362,7 +410,7 @@ std::size_t RichTextEdit::DrawRange(const FormatRange& range) {
     const double scaleX = target.device->logicalDpiX() / kTwipsPerInch;
     const double scaleY = target.device->logicalDpiY() / kTwipsPerInch;
     if (drawing == nullptr) {
-        drawing.reset(document()->clone());
+        drawing.reset(Target().clone());
         drawing->setUndoRedoEnabled(false);
         drawing->documentLayout()->setPaintDevice(target.device);
         drawing->setDocumentMargin(0);

@@ -5,6 +5,7 @@
 #include "report/RichTextBox.h"
 #include "ui/TextPositions.h"
 
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <memory>
@@ -41,6 +42,9 @@ public:
     void Load(const std::filesystem::path& file) override;
     void Save(const std::filesystem::path& file) const override;
 
+    void HoldBack() override { isHoldingBack = true; }
+    void ShowHeldBack() override;
+
     std::size_t DrawRange(const FormatRange& range) override;
     void FreeDrawing() override { drawing.reset(); }
 
@@ -60,7 +64,13 @@ private:
 
     // A text is put together beside the screen: a document that is shown is laid out at every change.
     [[nodiscard]] std::unique_ptr<QTextDocument> NewDocument() const;
+    // What changes are made to: the document that is held back if there is one, else that on the screen.
+    [[nodiscard]] QTextDocument& Target() const { return heldBack ? *heldBack : *document(); }
+    [[nodiscard]] QTextCursor Selection() const { return heldBack ? heldSelection : textCursor(); }
+    // In place of what was there, or of what was held back.
+    void Put(std::unique_ptr<QTextDocument> fresh);
     void ShowDocument(std::unique_ptr<QTextDocument> fresh);
+    void ShowBeginningIfSelected();
     [[nodiscard]] const Content& Current() const;
     [[nodiscard]] Content ReadDocument() const;
     [[nodiscard]] RichDocument Selected() const;
@@ -71,6 +81,9 @@ private:
 
     // The text as it was given, for as long as nobody edits it; afterwards that of the document.
     mutable std::optional<Content> content = Content{};
+    bool isHoldingBack = false;
+    std::unique_ptr<QTextDocument> heldBack;
+    QTextCursor heldSelection;
     // What the caret puts in.
     QTextCharFormat caretFormat;
     // Whether it is the program that changes the document, or moves the caret.

@@ -3,14 +3,10 @@
 #include "core/CodePage.h"
 #include "core/NumberLocale.h"
 #include "core/ProgramState.h"
-#include "core/Version.h"
 #include "ui/Desktop.h"
-#include "ui/Logo.h"
 #include "ui/Options.h"
-#include "ui/TextEdge.h"
 
 #include <QApplication>
-#include <QStandardPaths>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -44,11 +40,6 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(EndWithoutDisplay);
     const QApplication application(toolkitsArgc, argv);
     qInstallMessageHandler(nullptr);
-    QApplication::setApplicationName(orvel::kProgramTitle);
-    QApplication::setApplicationVersion(orvel::ProgramVersion());
-    QApplication::setWindowIcon(orvel::ui::ProgramIcon());
-    orvel::Program().userDataFolder =
-        orvel::ui::PathFromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) /
-        "orvel";
+    orvel::ui::IntroduceProgram();
     return orvel::ui::Desktop().Execute(options->file);
 }

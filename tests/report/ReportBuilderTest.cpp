@@ -26,6 +26,12 @@ using testing::RunsText;
 class RecordingBox : public MemoryRichTextBox {
 public:
     std::vector<std::string> steps;
+    // The steps before the text was held back, and those before it was shown.
+    std::size_t stepsBeforeHolding = 0;
+    std::size_t stepsBeforeShowing = 0;
+
+    void HoldBack() override { stepsBeforeHolding = steps.size(); }
+    void ShowHeldBack() override { stepsBeforeShowing = steps.size(); }
 
     void SetText(std::string_view newText) override {
         const bool isGrown = !Text().empty() && newText.starts_with(Text());
@@ -167,6 +173,20 @@ TEST_F(ReportBuilderTest, SectionAfterSectionOfTheSolidSetReportIsPutInTheBox) {
                   "append System Information", "append Average Depth = 0.58 inches",
                   "append Uniformity Analysis - Representative Layout", "append ", "append Comments:"}));
     EXPECT_TRUE(Text().ends_with(" \r\n" + Rule()));
+}
+
+TEST_F(ReportBuilderTest, AReportIsSeenAsAWhole) {
+    OpenPivot();
+    box.SetText("another one");
+    BuildPivot();
+    ASSERT_GT(box.steps.size(), 20U);
+    EXPECT_EQ(box.steps[box.stepsBeforeHolding], "set Center Pivot Water Application Uniformity Test");
+    EXPECT_EQ(box.stepsBeforeShowing, box.steps.size());
+    Expect1997Warnings();
+    OpenSolid("solid-set-1997.ssd");
+    BuildSolid();
+    EXPECT_EQ(box.steps.at(box.stepsBeforeHolding), "set Solid Set Water Application Uniformity Test");
+    EXPECT_EQ(box.stepsBeforeShowing, box.steps.size());
 }
 
 TEST_F(ReportBuilderTest, TheCenterPivotsColoursEndWithTheRunsThatWereEntered) {

@@ -259,7 +259,87 @@ TYPED_TEST_P(RichTextBoxContract, AFileThatCannotBeReadOrWrittenRaises) {
     EXPECT_EQ(this->box.Text(), "stays");
 }
 
-REGISTER_TYPED_TEST_SUITE_P(RichTextBoxContract, IsEmptyAtFirst, GivesBackTheTextItWasGiven,
+TYPED_TEST_P(RichTextBoxContract, AnswersAsEverWhileATextIsHeldBack) {
+    auto& box = this->box;
+    box.SetText("before");
+    RichDocument document;
+    {
+        const TextHeldBack held(box);
+        box.SetText("first");
+        box.SetSelectionItalic(true);
+        box.SetText("abcd\r\nef");
+        EXPECT_EQ(box.Text(), "abcd\r\nef");
+        EXPECT_EQ(box.SelectionStart(), 0U);
+        box.SetFontName("Arial");
+        box.Select(1, 2);
+        box.SetSelectionBold(true);
+        box.SetSelectionColor({255, 0, 0});
+        EXPECT_EQ(box.SelectionStart(), 1U);
+        EXPECT_EQ(box.SelectionLength(), 2U);
+        EXPECT_TRUE(box.IsSelectionBold());
+        document = this->Document();
+    }
+    ASSERT_EQ(document.paragraphs.size(), 2U);
+    const auto& runs = document.paragraphs[0].runs;
+    ASSERT_EQ(runs.size(), 3U);
+    EXPECT_EQ(runs[1].text, U"bc");
+    EXPECT_EQ(runs[1].format.font, "Arial");
+    EXPECT_EQ(runs[1].format.color, (Color{255, 0, 0}));
+    EXPECT_TRUE(runs[1].format.isBold && runs[1].format.isItalic);
+    EXPECT_TRUE(runs[2].format.isItalic);
+    EXPECT_FALSE(runs[2].format.isBold || runs[2].format.color);
+    EXPECT_EQ(this->Document(), document);
+    EXPECT_EQ(box.Text(), "abcd\r\nef");
+    EXPECT_EQ(box.SelectionStart(), 1U);
+    EXPECT_EQ(box.SelectionLength(), 2U);
+    box.SetSelectionBold(false);
+    EXPECT_FALSE(box.IsSelectionBold());
+}
+
+TYPED_TEST_P(RichTextBoxContract, WhatWasSetAtTheCaretOutlastsTheHoldingBack) {
+    auto& box = this->box;
+    {
+        const TextHeldBack held(box);
+        box.SetText("ab");
+        box.SetSelectionBold(true);
+    }
+    EXPECT_TRUE(box.IsSelectionBold());
+    box.SetText("c");
+    EXPECT_TRUE(this->Runs().at(0).format.isBold);
+}
+
+TYPED_TEST_P(RichTextBoxContract, AFileCanBeHeldBack) {
+    auto& box = this->box;
+    box.SetText("of the file");
+    box.Save(this->folder / "file.rtf");
+    {
+        const TextHeldBack held(box);
+        box.SetText("before it");
+        box.Load(this->folder / "file.rtf");
+        EXPECT_EQ(box.Text(), "of the file");
+    }
+    EXPECT_EQ(box.Text(), "of the file");
+    EXPECT_EQ(this->Runs().at(0).text, U"of the file");
+}
+
+TYPED_TEST_P(RichTextBoxContract, WithoutANewTextNothingIsHeldBack) {
+    auto& box = this->box;
+    box.SetText("ab");
+    {
+        const TextHeldBack held(box);
+        box.Select(1, 1);
+        box.SetSelectionBold(true);
+    }
+    EXPECT_EQ(box.Text(), "ab");
+    EXPECT_EQ(box.SelectionStart(), 1U);
+    EXPECT_TRUE(box.IsSelectionBold());
+    box.SetText("c");
+    EXPECT_EQ(box.Text(), "c");
+}
+
+REGISTER_TYPED_TEST_SUITE_P(RichTextBoxContract, AnswersAsEverWhileATextIsHeldBack,
+                            WhatWasSetAtTheCaretOutlastsTheHoldingBack, AFileCanBeHeldBack,
+                            WithoutANewTextNothingIsHeldBack, IsEmptyAtFirst, GivesBackTheTextItWasGiven,
                             ASelectionIsCutToTheText, PositionsCountALineEndAsTwoCharacters,
                             ANewTextPutsTheCaretBeforeIt, TheCaretTakesAfterTheCharacterBeforeIt,
                             FormatsTheSelectionAlone, IsBoldOrItalicOnlyWhereAllOfTheSelectionIs,

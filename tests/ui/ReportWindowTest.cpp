@@ -251,6 +251,20 @@ TEST_F(ReportWindow, ItsCommandsReachTheLogic) {
     }
 }
 
+TEST_F(ReportWindow, AnErrorInTheMiddleOfAReportEmptiesItAndTheNextOneShows) {
+    ShowSolid();
+    Program().solidSetTest.NumberX = "";
+    Choose("mnuRefreshReport");
+    EXPECT_EQ(Report().toPlainText(), "");
+    EXPECT_EQ(Said(),
+              (Lines{"box [Error] Sorry, an error occurred generating report...|Error Number: 13|Error "
+                     "Description: Type mismatch|Error Source: ORVEL| (Ok, Critical)"}));
+    OpenSolid();
+    Choose("mnuRefreshReport");
+    Said(); // the warnings about its catches
+    EXPECT_TRUE(Report().toPlainText().contains("Uniformity Analysis - Representative Layout"));
+}
+
 TEST_F(ReportWindow, RefreshAndCloseChangeTheText) {
     ShowPivot();
     for (const char* refresh : {"mnuRefreshReport", "Refresh"}) {

@@ -275,6 +275,77 @@ TEST_F(RichTextEdit, TheBeginningShowsWithItsMargin) {
     EXPECT_EQ(box.verticalScrollBar()->value(), 0);
 }
 
+TEST_F(RichTextEdit, WhatIsHeldBackIsSeenAsAWhole) {
+    box.SetText("old");
+    ShowActive(box);
+    {
+        const TextHeldBack held(box);
+        box.SetText("new\r\ntext");
+        box.Select(5, 4);
+        box.SetSelectionColor({255, 0, 0});
+        EXPECT_EQ(box.toPlainText(), "old");
+        EXPECT_FALSE(box.textCursor().hasSelection());
+    }
+    EXPECT_EQ(box.toPlainText(), "new\ntext");
+    EXPECT_EQ(box.textCursor().selectedText(), "text");
+    EXPECT_FALSE(box.document()->isUndoAvailable());
+    box.Select(0, 0);
+    QTest::keyClick(&box, 'x');
+    EXPECT_EQ(box.Text(), "xnew\r\ntext");
+    EXPECT_EQ(Document().paragraphs.at(1).runs.at(0).format.color, (Color{255, 0, 0}));
+    EXPECT_FALSE(Document().paragraphs.at(0).runs.at(0).format.color);
+    QTest::keyClick(&box, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), "new\r\ntext");
+}
+
+TEST_F(RichTextEdit, NothingIsHeldBackAnyMoreAfterwards) {
+    ShowActive(box);
+    for (const bool isUsed : {true, false}) {
+        {
+            const TextHeldBack held(box);
+            if (isUsed) {
+                box.SetText("held back");
+            }
+        }
+        const std::string text = isUsed ? "a" : "b";
+        box.SetText(text);
+        EXPECT_EQ(box.toPlainText().toStdString(), text);
+    }
+}
+
+TEST_F(RichTextEdit, AHeldBackTextShowsItsBeginning) {
+    std::string text;
+    for (int i = 0; i < 100; ++i) {
+        text += "line\r\n";
+    }
+    box.SetText(text);
+    ShowActive(box);
+    box.Select(text.size(), 0);
+    ASSERT_GT(box.verticalScrollBar()->value(), 0);
+    {
+        const TextHeldBack held(box);
+        box.SetText(text);
+        box.Select(0, 0);
+    }
+    EXPECT_EQ(box.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(RichTextEdit, TheFontReachesEveryLetterAndLineEnd) {
+    for (const std::size_t other : {0U, 2U, 5U}) {
+        box.SetText("ab\r\n\r\nc");
+        box.Select(other, other == 2 ? 2 : 1);
+        box.SetSelectionFontName("Arial");
+        box.SetFontName("Courier New");
+        for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next()) {
+            EXPECT_EQ(block.charFormat().fontFamilies().toStringList(), QStringList{"Courier New"}) << other;
+            for (auto each = block.begin(); !each.atEnd(); ++each) {
+                EXPECT_EQ(each.fragment().charFormat().fontFamilies().toStringList(),
+                          QStringList{"Courier New"});
+            }
+        }
+    }
+}
+
 TEST_F(RichTextEdit, TheWheelScrollsAndNeverZooms) {
     std::string text;
     for (int i = 0; i < 100; ++i) {
