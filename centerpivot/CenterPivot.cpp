@@ -42,7 +42,7 @@ void ComputeDepths() {
         CupDepth& cup = CupDepths()[static_cast<std::size_t>(i)];
         cup.Sequence = gauge.Sequence;
         cup.Footage = gauge.Footage;
-        if (i == 1) { // not before: of a diameter that is no number, the first cup tells the place
+        if (i == 1) { // behind the first cup's place, which stays when the diameter is no number
             diameter = ToSingle(Test().GuageDiameter.Whole());
         }
         cup.Depth = DepthFromVolume(gauge.Volume, diameter);
