@@ -40,6 +40,14 @@ protected:
         QApplication::clipboard()->setMimeData(content);
     }
 
+    [[nodiscard]] static std::string HundredLines() {
+        std::string text;
+        for (int i = 0; i < 100; ++i) {
+            text += "line\r\n";
+        }
+        return text;
+    }
+
     TemporaryFolder folder;
     ui::RichTextEdit box;
 };
@@ -263,10 +271,7 @@ TEST_F(RichTextEdit, ReportsShowWholeLinesHoweverNarrowTheyAre) {
 }
 
 TEST_F(RichTextEdit, TheBeginningShowsWithItsMargin) {
-    std::string text;
-    for (int i = 0; i < 100; ++i) {
-        text += "line\r\n";
-    }
+    const std::string text = HundredLines();
     box.SetText(text);
     ShowActive(box);
     box.Select(text.size(), 0);
@@ -314,10 +319,7 @@ TEST_F(RichTextEdit, NothingIsHeldBackAnyMoreAfterwards) {
 }
 
 TEST_F(RichTextEdit, AHeldBackTextShowsItsBeginning) {
-    std::string text;
-    for (int i = 0; i < 100; ++i) {
-        text += "line\r\n";
-    }
+    const std::string text = HundredLines();
     box.SetText(text);
     ShowActive(box);
     box.Select(text.size(), 0);
@@ -347,10 +349,7 @@ TEST_F(RichTextEdit, TheFontReachesEveryLetterAndLineEnd) {
 }
 
 TEST_F(RichTextEdit, TheWheelScrollsAndNeverZooms) {
-    std::string text;
-    for (int i = 0; i < 100; ++i) {
-        text += "line\r\n";
-    }
+    const std::string text = HundredLines();
     box.SetText(text);
     ShowActive(box);
     const RichDocument before = Document();
