@@ -170,8 +170,7 @@ MemoryRichTextBox::FormatRuns::const_iterator MemoryRichTextBox::RunAt(std::size
 std::size_t MemoryRichTextBox::SplitAt(std::size_t position) {
     const auto found = std::ranges::lower_bound(runs, position, {}, &FormatRun::begin);
     const auto index = static_cast<std::size_t>(found - runs.begin());
-    const bool isThere = position == text.size() || (found != runs.end() && found->begin == position);
-    if (!isThere) {
+    if (found == runs.end() || found->begin != position) {
         runs.insert(found, {position, std::prev(found)->format});
     }
     return index;

@@ -60,7 +60,7 @@ private:
     [[nodiscard]] FormatNumber NumberOf(const CharacterFormat& format);
     // The run that the character at that position, which is not behind the text, belongs to.
     [[nodiscard]] FormatRuns::const_iterator RunAt(std::size_t position) const;
-    // Makes a run begin at that position, unless the text ends there; returns its index.
+    // Makes a run begin at that position, an empty one where the text ends; returns its index.
     std::size_t SplitAt(std::size_t position);
 
     std::string text;

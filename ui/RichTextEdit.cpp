@@ -141,7 +141,7 @@ void RichTextEdit::Select(std::size_t start, std::size_t length) {
 }
 
 void RichTextEdit::ShowBeginningIfSelected() {
-    if (!heldBack && textCursor().selectionStart() == 0) {
+    if (textCursor().selectionStart() == 0) {
         // With the margin above it.
         verticalScrollBar()->setValue(0);
     }

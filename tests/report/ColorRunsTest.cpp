@@ -55,7 +55,7 @@ struct Deviation {
 };
 
 TEST(ColorRuns, ACupIsMarkedBeyondTwentyPercentOfTheAverage) {
-    constexpr std::array<Deviation, 16> kCases = {{
+    constexpr std::array<Deviation, 18> kCases = {{
         {0.5F, 0.5F, kNoColor},
         {0.6F, 0.5F, kNoColor}, // 20 %, which no Single holds exactly
         {0.4F, 0.5F, kNoColor},
@@ -65,6 +65,8 @@ TEST(ColorRuns, ACupIsMarkedBeyondTwentyPercentOfTheAverage) {
         {12.0006F, 10.0F, kBlue},    // 0.20006 is 0.2001
         {7.9996F, 10.0F, kNoColor},
         {7.9994F, 10.0F, kRed},
+        {24001.0F, 20000.0F, kBlue}, // 0.20005, a half at the fourth decimal
+        {15999.0F, 20000.0F, kRed},
         {0.0F, 0.5F, kRed},
         {-1.0F, 0.5F, kRed},
         {1.0F, 0.5F, kBlue},

@@ -318,6 +318,20 @@ TEST_F(RichTextEdit, NothingIsHeldBackAnyMoreAfterwards) {
     }
 }
 
+TEST_F(RichTextEdit, WhatIsTypedBehindAHeldBackTextHasTheFormatSetAtTheCaret) {
+    {
+        const TextHeldBack held(box);
+        box.SetText("ab");
+        box.SetSelectionBold(true);
+    }
+    ShowActive(box);
+    QTest::keyClick(&box, 'x');
+    const std::vector<TextRun> runs = Document().paragraphs.at(0).runs;
+    ASSERT_EQ(runs.size(), 2U);
+    EXPECT_EQ(runs[0].text, U"x");
+    EXPECT_TRUE(runs[0].format.isBold);
+}
+
 TEST_F(RichTextEdit, AHeldBackTextShowsItsBeginning) {
     const std::string text = HundredLines();
     box.SetText(text);
