@@ -14,75 +14,54 @@ namespace orvel::bench {
 
 namespace {
 
-// Cups on a grid of two rows, so that any even number of them has one.
-void OpenPivot(const benchmark::State& state) {
-    Open(PivotSample(static_cast<int>(state.range(0))));
+void OpenPivot(int cups) {
+    Open(PivotSample(cups));
 }
 
-void OpenSolid(const benchmark::State& state) {
-    Open(SolidSample(2, static_cast<int>(state.range(0)) / 2));
+// On a grid of two rows, so that any even number of cups has one.
+void OpenSolid(int cups) {
+    Open(SolidSample(2, cups / 2));
+}
+
+void Repeat(benchmark::State& state, void (*open)(int cups), void (*work)()) {
+    const Surroundings surroundings;
+    open(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        work();
+    }
+}
+
+void CountPivot() {
+    benchmark::DoNotOptimize(CountCups(Program().centerPivotTest.Gauges));
+}
+
+void CountSolid() {
+    benchmark::DoNotOptimize(CountCups(Program().solidSetTest.Gauges));
+}
+
+void CheckPivot() {
+    benchmark::DoNotOptimize(CheckCenterPivotData());
+}
+
+void CheckSolid() {
+    benchmark::DoNotOptimize(SolidSetDataCheck());
 }
 
 void Sizes(benchmark::internal::Benchmark* benchmark) {
     benchmark->Arg(10)->Arg(60)->Arg(kMostCups);
 }
 
-void CountPivot(benchmark::State& state) {
-    const Surroundings surroundings;
-    OpenPivot(state);
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(CountCups(Program().centerPivotTest.Gauges));
-    }
-}
+// What the benchmarks are called.
+constexpr auto Count = Repeat;
+constexpr auto Calculate = Repeat;
+constexpr auto Check = Repeat;
 
-void CountSolid(benchmark::State& state) {
-    const Surroundings surroundings;
-    OpenSolid(state);
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(CountCups(Program().solidSetTest.Gauges));
-    }
-}
-
-void CalculatePivot(benchmark::State& state) {
-    const Surroundings surroundings;
-    OpenPivot(state);
-    for (auto _ : state) {
-        CalculateCenterPivot();
-        benchmark::DoNotOptimize(PivotResults());
-    }
-}
-
-void CalculateSolid(benchmark::State& state) {
-    const Surroundings surroundings;
-    OpenSolid(state);
-    for (auto _ : state) {
-        CalculateSolidSet();
-        benchmark::DoNotOptimize(SolidResults());
-    }
-}
-
-void CheckPivot(benchmark::State& state) {
-    const Surroundings surroundings;
-    OpenPivot(state);
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(CheckCenterPivotData());
-    }
-}
-
-void CheckSolid(benchmark::State& state) {
-    const Surroundings surroundings;
-    OpenSolid(state);
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(SolidSetDataCheck());
-    }
-}
-
-BENCHMARK(CountPivot)->Name("Count/pivot")->Apply(Sizes);
-BENCHMARK(CountSolid)->Name("Count/solid")->Apply(Sizes);
-BENCHMARK(CalculatePivot)->Name("Calculate/pivot")->Apply(Sizes);
-BENCHMARK(CalculateSolid)->Name("Calculate/solid")->Apply(Sizes);
-BENCHMARK(CheckPivot)->Name("Check/pivot")->Apply(Sizes);
-BENCHMARK(CheckSolid)->Name("Check/solid")->Apply(Sizes);
+BENCHMARK_CAPTURE(Count, pivot, OpenPivot, CountPivot)->Apply(Sizes);
+BENCHMARK_CAPTURE(Count, solid, OpenSolid, CountSolid)->Apply(Sizes);
+BENCHMARK_CAPTURE(Calculate, pivot, OpenPivot, CalculateCenterPivot)->Apply(Sizes);
+BENCHMARK_CAPTURE(Calculate, solid, OpenSolid, CalculateSolidSet)->Apply(Sizes);
+BENCHMARK_CAPTURE(Check, pivot, OpenPivot, CheckPivot)->Apply(Sizes);
+BENCHMARK_CAPTURE(Check, solid, OpenSolid, CheckSolid)->Apply(Sizes);
 
 } // namespace
 

@@ -226,7 +226,9 @@ void TestFileTrial::TryResults() {
     Require(boxes.Messages().size() <= 1, "an error ends the calculation");
     Program().shownError.reset();
     Require(kind.resultsJson() == results, "a calculation that is made again is the same");
-    Require(kind.resultsListing().find(std::to_string(tried.countCups().value_or(0))) != std::string::npos,
+    const std::string cups = std::to_string(tried.countCups().value_or(0));
+    Require(kind.resultsListing().find(PadText(tried.countName, 28, 'R', ' ') + cups + "\n") !=
+                std::string::npos,
             "the listing says how many cups there are");
     Require(IsOnlyTrimmed(record, tried.record(), tried.fields), "a calculation only trims");
 }
