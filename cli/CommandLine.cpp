@@ -8,7 +8,7 @@
 #include "cli/Output.h"
 #include "cli/Services.h"
 #include "core/CodePage.h"
-#include "core/FileNames.h"
+#include "core/ProgramDirectory.h"
 #include "core/ProgramState.h"
 #include "core/Version.h"
 
@@ -206,7 +206,7 @@ int ReadAndRun(int argc, const char* const* argv) {
     app.set_version_flag("--version", std::string("orvel-cli ") + ProgramVersion());
     app.require_subcommand(1);
     Options options;
-    options.programDirectory = FolderOfExecutable();
+    options.programDirectory = DefaultProgramDirectory();
     for (const Command& command : kCommands) {
         AddCommand(app, command, options);
     }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/Options.h"
 
-#include "core/FileNames.h"
+#include "core/ProgramDirectory.h"
 #include "core/Version.h"
 
 #include <CLI/CLI.hpp>
@@ -24,7 +24,7 @@ fs::path Absolute(const fs::path& path) {
 
 std::optional<Options> ReadOptions(int argc, const char* const* argv, int& status) {
     constexpr int kWrongCall = 2;
-    Options options{.file = {}, .programDirectory = FolderOfExecutable()};
+    Options options{.file = {}, .programDirectory = DefaultProgramDirectory()};
     std::string file;
     CLI::App app{"Evaluates field irrigation systems from catch-can tests.", "orvel"};
     app.set_version_flag("--version", std::string("orvel ") + ProgramVersion());

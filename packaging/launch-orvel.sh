@@ -1,0 +1,16 @@
+#!/bin/sh
+# SPDX-FileCopyrightText: 2026 The ORVEL developers
+# SPDX-License-Identifier: MIT
+# Starts the installed program with a folder of the user's own for settings, soils and help.
+installed=$(dirname "$(readlink -f "$0")")/..
+own=${ORVEL_PROGRAM_DIR:-${XDG_DATA_HOME:-$HOME/.local/share}/orvel}
+
+# Where the folder can't be made the program says so in a box.
+mkdir -p "$own" 2>/dev/null
+has_help=no
+for help in "$own"/[Hh][Ee][Ll][Pp].[Rr][Tt][Ff]; do
+  [ ! -e "$help" ] || has_help=yes
+done
+[ "$has_help" = yes ] || ln -sf "$(readlink -f "$installed/share/orvel/help.rtf")" "$own/help.rtf" 2>/dev/null
+
+ORVEL_PROGRAM_DIR=$own exec "$installed/libexec/orvel/orvel" "$@"

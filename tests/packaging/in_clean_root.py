@@ -1,0 +1,24 @@
+# SPDX-FileCopyrightText: 2026 The ORVEL developers
+# SPDX-License-Identifier: MIT
+"""Runs a command in a copy of another system, as an ordinary user with sudo, in a fresh clone of this project:
+in_clean_root.py ROOT COMMAND... Its status is the command's."""
+
+import pathlib
+import subprocess
+import sys
+
+from clean_root import CleanRoot, own_mounts
+
+own_mounts()
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
+
+with CleanRoot(sys.argv[1]) as root:
+    root.run("useradd", "--create-home", "--user-group", "ida")
+    (root / "etc/sudoers.d/ida").write_text("ida ALL=(ALL) NOPASSWD: ALL\n", encoding="ascii")
+    clone = root / "home/ida/orvel"
+    subprocess.run(["git", "-c", f"safe.directory={PROJECT}/.git", "clone", "--quiet", "--no-hardlinks", PROJECT, clone],
+                   check=True)
+    root.run("chown", "--recursive", "ida:", "/home/ida/orvel")
+    command = root.command("ida", "env", "--chdir=/home/ida/orvel", *sys.argv[2:])
+    status = subprocess.run(command, check=False).returncode
+sys.exit(status)
