@@ -3,6 +3,7 @@
 """Reads from the programs, as they are installed, how hard they are to take over: test_hardening.py CMAKE BUILD
 optimised|not-optimised PROGRAM..."""
 
+import os
 import pathlib
 import re
 import subprocess
@@ -19,7 +20,8 @@ class HardeningTest(unittest.TestCase):
         folder = tempfile.TemporaryDirectory(prefix="orvel-test-")
         cls.addClassCleanup(folder.cleanup)
         subprocess.run([CMAKE, "--install", BUILD, "--prefix", folder.name], check=True, stdout=subprocess.DEVNULL)
-        cls.programs = sorted((pathlib.Path(folder.name) / "bin").iterdir())
+        files = [path for path in pathlib.Path(folder.name).iterdir() if path.is_file()]
+        cls.programs = sorted(path for path in files if os.access(path, os.X_OK))
 
     def read(self, *options):
         """The name of each program and what readelf says of it."""
