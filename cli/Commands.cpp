@@ -5,6 +5,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/Json.h"
 #include "cli/Output.h"
+#include "cli/Progress.h"
 #include "cli/Session.h"
 #include "cli/Sink.h"
 #include "cli/TestKinds.h"
@@ -38,6 +39,7 @@ int OverFiles(const Options& options, std::string_view outputExtension,
             status = std::max<int>(status, error.Status());
         }
     };
+    Progress progress(options);
     for (const std::filesystem::path& file : options.files) {
         guarded([&] {
             const FileResult result = work(file);
@@ -46,6 +48,7 @@ int OverFiles(const Options& options, std::string_view outputExtension,
                 sink.Take(file, *result.text);
             }
         });
+        progress.AddDone();
     }
     guarded([&sink] { sink.Finish(); });
     return status;

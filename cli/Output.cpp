@@ -44,6 +44,11 @@ std::string Escaped(char32_t control) {
     }
 }
 
+void WriteError(std::string_view text) {
+    // Nowhere is left to tell that this failed.
+    (void)std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
 } // namespace
 
 void Print(std::string_view text) {
@@ -59,8 +64,17 @@ void FlushOutput() {
 }
 
 void PrintError(std::string_view text) {
-    // Nowhere is left to tell that this failed.
-    (void)std::fwrite(text.data(), 1, text.size(), stderr);
+    ShowPassingLine("");
+    WriteError(text);
+}
+
+void ShowPassingLine(std::string_view text) {
+    static std::size_t shownLength = 0;
+    if (shownLength > 0) {
+        WriteError("\r" + std::string(shownLength, ' ') + "\r");
+    }
+    WriteError(text);
+    shownLength = text.size();
 }
 
 std::string OnOneLine(std::string_view utf8) {

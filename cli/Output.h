@@ -20,6 +20,9 @@ void Print(std::string_view text);
 void FlushOutput();
 // Writes a text to standard error.
 void PrintError(std::string_view text);
+// Shows a line on standard error that the next one takes the place of, as does whatever else is written
+// there; an empty one only takes away what is shown.
+void ShowPassingLine(std::string_view text);
 // A UTF-8 text as a part of one line: line ends and other control characters as "\n", "\r", "\t" or
 // "\u001b", what is not UTF-8 as U+FFFD.
 [[nodiscard]] std::string OnOneLine(std::string_view utf8);
