@@ -19,9 +19,9 @@ constexpr std::string_view kPicture = "![";
 
 constexpr Color kHeadingColor{.red = 0x2E, .green = 0x6B, .blue = 0x1F};
 constexpr int kTitleSize = 36; // in half points, as all sizes here
-constexpr int kSectionSize = 26;
-constexpr int kTextSize = 20;
-constexpr int kFormulaSize = 19;
+constexpr int kSectionSize = 28;
+constexpr int kTextSize = 21;
+constexpr int kFormulaSize = 20;
 constexpr int kGapSize = 10;
 constexpr int kGapBetweenEntries = 6;
 
