@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
+#include "centerpivot/CenterPivotChecks.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
 #include "tests/support/CompleteUserSettings.h"
@@ -13,11 +14,15 @@
 #include "ui/ViewerWindow.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextEdit>
+#include <QTimer>
 #include <cstdio>
+#include <functional>
 
 // Takes a picture of every window: orvel_screenshots FOLDER.
 
@@ -91,7 +96,31 @@ bool TakeReport(ui::Desktop& desktop, const QString& folder) {
 
 bool TakeViewer(ui::Desktop& desktop, const QString& folder) {
     desktop.ShowViewer(kViewCenterPivotData);
-    return Take(*WindowOfName("frmShowRTF"), folder);
+    if (!Take(*WindowOfName("frmShowRTF"), folder)) {
+        return false;
+    }
+    desktop.ShowViewer(kViewHelp);
+    return Take(*WindowOfName("frmShowRTF"), folder, "-Instructions");
+}
+
+// The box that a command shows, named by its title: box-Auto-Complete-Entries.png.
+bool TakeBox(const QString& folder, const std::function<void()>& command) {
+    bool isTaken = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* box = QApplication::activeModalWidget();
+        isTaken = box->grab().save(folder + "/box-" + box->windowTitle().replace(' ', '-') + ".png");
+        box->close();
+    });
+    command();
+    return isTaken;
+}
+
+bool TakeBoxes(QWidget& centerPivot, const QString& folder) {
+    auto* autoFill = centerPivot.findChild<QPushButton*>("cmdBtnAutoFill");
+    // Without it the check has something to say.
+    Program().centerPivotTest.EndGunRadius = "";
+    return TakeBox(folder, [autoFill] { autoFill->click(); }) &&
+           TakeBox(folder, [] { (void)CheckCenterPivotData(); });
 }
 
 } // namespace
@@ -107,6 +136,7 @@ int main(int argc, char** argv) {
     QApplication::setCursorFlashTime(0);
     const QTemporaryDir programDirectory;
     FillSettings(programDirectory.path().toStdString());
+    QFile::copy(ORVEL_HELP, programDirectory.filePath("help.rtf"));
 
     ui::Desktop desktop;
     ui::MainWindow mainWindow(desktop);
@@ -126,7 +156,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     ui::CenterPivotDataDialog centerPivot(nullptr, desktop);
+    const bool areTaken = TakePages(centerPivot, arguments.at(1)) && TakeBoxes(centerPivot, arguments.at(1));
     mainWindow.OpenGivenFile(ORVEL_EXAMPLES "/solid-set-1997.ssd");
     ui::SolidSetDataDialog solidSet(nullptr, desktop);
-    return TakePages(centerPivot, arguments.at(1)) && TakePages(solidSet, arguments.at(1)) ? 0 : 1;
+    return areTaken && TakePages(solidSet, arguments.at(1)) ? 0 : 1;
 }
