@@ -40,6 +40,8 @@ void IntroduceProgram() {
     QApplication::setApplicationName(kProgramTitle);
     QApplication::setApplicationVersion(ProgramVersion());
     QApplication::setWindowIcon(ProgramIcon());
+    // By which a desktop knows whose window it is: the name of the installed desktop file.
+    QApplication::setDesktopFileName("org.example.orvel");
     Program().userDataFolder =
         PathFromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) / "orvel";
 }

@@ -4,6 +4,7 @@
 in_clean_root.py ROOT COMMAND... Its status is the command's."""
 
 import pathlib
+import socket
 import subprocess
 import sys
 
@@ -15,6 +16,7 @@ PROJECT = pathlib.Path(__file__).resolve().parents[2]
 with CleanRoot(sys.argv[1]) as root:
     root.run("useradd", "--create-home", "--user-group", "ida")
     (root / "etc/sudoers.d/ida").write_text("ida ALL=(ALL) NOPASSWD: ALL\n", encoding="ascii")
+    (root / "etc/hosts").write_text(f"127.0.0.1 localhost {socket.gethostname()}\n", encoding="ascii")
     clone = root / "home/ida/orvel"
     subprocess.run(["git", "-c", f"safe.directory={PROJECT}/.git", "clone", "--quiet", "--no-hardlinks", PROJECT, clone],
                    check=True)

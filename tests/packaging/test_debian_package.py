@@ -9,8 +9,10 @@ then fetches what the package needs. COMMAND-LINE is the command line of the bui
 
 import os
 import pathlib
+import re
 import subprocess
 import sys
+import time
 import unittest
 
 from clean_root import CleanRoot, own_mounts
@@ -67,12 +69,20 @@ class DebianPackageTest(unittest.TestCase):
         root.run("chown", f"{user}:", f"/home/{user}/.local/share/orvel/user.usr")
         return own
 
-    def start(self, user, *command):
+    def open(self, user, *command):
         wait_for_a_calm_second()
         self.addCleanup(desktop.end)
         desktop.open(root.command(user, *command))
+
+    def start(self, user, *command):
+        self.open(user, *command)
         # The splash window has the main window's title, but comes before the soils.
         desktop.wait_for((self.own_folder(user) / "soil.dat").exists, "the main window")
+
+    @staticmethod
+    def windows(title):
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{title}$"], capture_output=True,
+                              check=False).stdout.split()
 
     def wait_for_window(self, title):
         desktop.place_of(title)
@@ -89,6 +99,11 @@ class DebianPackageTest(unittest.TestCase):
         desktop.keys("Return")
         self.wait_for_window("ORVEL")
         desktop.keys("alt+g")
+        entry = (root / "usr/share/applications/org.example.orvel.desktop").read_text(encoding="utf-8")
+        window_class = re.search(r"^StartupWMClass=(.*)$", entry, re.MULTILINE).group(1)
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", f"^{window_class}$"],
+                               capture_output=True, check=False)
+        self.assertEqual(found.returncode, 0, "a desktop can't tell whose window it is")
         # Without an open file a box would say so.
         self.wait_for_window("Report")
         desktop.keys("alt+w", "m")
@@ -134,6 +149,17 @@ class DebianPackageTest(unittest.TestCase):
         self.start("ola", "orvel")
         self.end_program()
         self.assertEqual([path.name for path in own.iterdir() if path.suffix.lower() == ".rtf"], ["Help.RTF"])
+
+    def test_a_folder_that_cannot_be_made_is_told(self):
+        # Nobody is to make anything there: not even a folder is where a file is.
+        (root / "home/ola/.local").write_bytes(b"")
+        self.open("ola", "orvel")
+        # A box that says so, then the one of the error: both have the splash window's title.
+        desktop.wait_for(lambda: len(self.windows("ORVEL")) == 2, "a box in front of the splash window")
+        while desktop.program.poll() is None:
+            desktop.keys("Return")
+            time.sleep(0.2)
+        self.assertEqual(desktop.status(), 1)
 
     def test_installed_and_built_command_line_say_the_same(self):
         arguments = ["--now", "2026-07-04 09:05:03", "--program-dir", "/tmp"]

@@ -52,6 +52,14 @@ class MetadataTest(unittest.TestCase):
     def manual(self, name):
         return gzip.decompress((self.share / f"man/man1/{name}.1.gz").read_bytes()).decode("utf-8")
 
+    def test_both_programs_are_of_this_version(self):
+        self.assertEqual(output_of(PROGRAM, "--version"), f"orvel {VERSION}\n")
+        self.assertEqual(output_of(COMMAND_LINE, "--version"), f"orvel-cli {VERSION}\n")
+
+    def test_the_changelog_begins_with_this_version(self):
+        changes = gzip.decompress((self.share / "doc/orvel/changelog.gz").read_bytes()).decode("utf-8")
+        self.assertTrue(changes.startswith(f"# Changelog\n\n## {VERSION}, "), changes[:40])
+
     def test_the_desktop_file_is_valid(self):
         self.assertEqual(self.accepts("desktop-file-validate", self.share / "applications/org.example.orvel.desktop"), "")
 
