@@ -3,6 +3,7 @@
 #include "ui/DataPages.h"
 
 #include "ui/Form.h"
+#include "ui/ScrollingArea.h"
 #include "ui/UncaughtError.h"
 
 #include <QCheckBox>
@@ -16,7 +17,6 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -34,7 +34,11 @@ public:
         setInsertPolicy(NoInsert);
         setCompleter(nullptr);
         setFocusPolicy(Qt::StrongFocus);
+        setSizeAdjustPolicy(AdjustToContents);
     }
+
+    // The opened list is no wider than the box.
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void wheelEvent(QWheelEvent* event) override {
@@ -179,15 +183,7 @@ void DataPages::AddCommentsPage() {
 }
 
 void DataPages::AddScrolled(QWidget* page, const char* caption) {
-    auto* area = new QScrollArea;
-    area->setWidget(page);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    // The pages keep the background of their frame.
-    area->viewport()->setAutoFillBackground(false);
-    page->setAutoFillBackground(false);
-    addTab(area, caption);
+    addTab(new ScrollingArea(page), caption);
 }
 
 void DataPages::AddPage(const Page& page) {
@@ -263,6 +259,12 @@ QWidget* DataPages::NewGrid() {
     table = new MeasurementTable(logic.Grid(), editor->sizeHint().height(), page);
     editor->setFont(table->font());
     editor->TurnWithWheel(table->verticalScrollBar());
+    // A page that scrolls follows the cell that is typed into.
+    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, table, [this] {
+        if (table->hasFocus() || editor->hasFocus()) {
+            dynamic_cast<ScrollingArea&>(*currentWidget()).Follow(*table);
+        }
+    });
     layout->addWidget(table);
     page->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     // Leaving the editor with Tab goes to the grid, which takes the text.
