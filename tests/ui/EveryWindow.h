@@ -6,6 +6,7 @@
 #include "tests/support/OpenedExamples.h"
 #include "tests/ui/WidgetTest.h"
 
+#include <filesystem>
 #include <functional>
 #include <string>
 
@@ -24,6 +25,9 @@ protected:
     // Opens one window after the other, each on its own, and looks at it: at each page of those that have
     // pages, and at the cell editor; at a short box and at one that scrolls.
     void ForEach(const Look& look);
+
+    // The program directory.
+    [[nodiscard]] std::filesystem::path Folder() const { return folder.Path(); }
 
 private:
     // What the user has not changed yet.
