@@ -6,6 +6,7 @@
 #include "ui/ScrollingArea.h"
 #include "ui/UncaughtError.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -285,6 +286,7 @@ QWidget* DataPages::NewControl(const LabelledControl& labelled) {
         auto* list = new EntryList;
         // A list's own name is the text it shows.
         list->lineEdit()->setAccessibleName(labelled.label);
+        list->view()->setAccessibleName(labelled.label);
         KeepOneLine(*list->lineEdit());
         control = list;
     } else if (name.ends_with("Comments")) {
