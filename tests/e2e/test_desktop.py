@@ -7,7 +7,7 @@ import os
 import struct
 import subprocess
 
-from program import COMMAND_LINE, EXAMPLES, PROGRAM, ProgramTest, desktop, main, text, user_settings
+from program import EXAMPLES, PROGRAM, ProgramTest, desktop, main, pivot_to_type, text, user_settings
 
 VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
 
