@@ -22,6 +22,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace orvel::ui {
 
@@ -130,12 +131,24 @@ QWidget* NewTips() {
 
 DataPages::DataPages(DataWindow& ofWindow) : logic(ofWindow) {
     setObjectName("tabPages");
-    // A menu bar that is used by keys gives them back to where they were, be that hidden by now.
     connect(this, &QTabWidget::currentChanged, this, [this] {
-        if (qobject_cast<QMenuBar*>(window()->focusWidget()) != nullptr) {
+        const QWidget* withKeys = window()->focusWidget();
+        if (qobject_cast<const QMenuBar*>(withKeys) != nullptr) {
+            // It gives them back to where they were, be that hidden by now.
             tabBar()->setFocus();
+        } else if (withKeys != nullptr && !isAncestorOf(withKeys)) {
+            // Else what is typed into the page would press a button below it.
+            FocusFirst();
         }
     });
+}
+
+void DataPages::FocusFirst() {
+    const auto first = std::ranges::find_if(
+        controls, [this](const QWidget* control) { return currentWidget()->isAncestorOf(control); });
+    if (first != controls.end()) {
+        (*first)->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void DataPages::AddClientPage() {
