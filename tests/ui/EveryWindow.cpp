@@ -99,13 +99,20 @@ void EveryWindow::ForEach(const Look& look) {
     Said();
 }
 
+std::filesystem::path EveryWindow::OpenCopy(const char* kind, const char* example) {
+    const std::filesystem::path place = Folder() / std::to_string(++copies);
+    std::filesystem::create_directory(place);
+    const std::filesystem::path copy = place / example;
+    std::filesystem::copy_file(Example(example), copy);
+    Program().testKind = kind;
+    OpenTestFile(copy);
+    return copy;
+}
+
 template <class Dialog>
 void EveryWindow::LookAtPages(const char* kind, const char* example, const Look& look) {
     constexpr int kTestPage = 3;
-    const std::filesystem::path file = folder / example;
-    std::filesystem::copy_file(Example(example), file, std::filesystem::copy_options::overwrite_existing);
-    Program().testKind = kind;
-    OpenTestFile(file);
+    OpenCopy(kind, example);
     Dialog dialog(nullptr, surroundings);
     auto& pages = Find<QTabWidget>(dialog, "tabPages");
     for (int page = 0; page < pages.count(); ++page) {

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace orvel::testing {
 
@@ -25,6 +26,9 @@ protected:
     // Opens one window after the other, each on its own, and looks at it: at each page of those that have
     // pages, and at the cell editor; at a short box and at one that scrolls.
     void ForEach(const Look& look);
+
+    // Opens a copy of the example in a folder of its own, so that what was typed before is not offered.
+    std::filesystem::path OpenCopy(const char* kind, const char* example);
 
     // The program directory.
     [[nodiscard]] std::filesystem::path Folder() const { return folder.Path(); }
@@ -48,6 +52,24 @@ private:
 
     TemporaryFolder folder;
     NothingKept store;
+    int copies = 0;
 };
+
+// To be told by.
+inline std::string Named(const QWidget& control) {
+    return std::string(control.metaObject()->className()) + " " + control.objectName().toStdString();
+}
+
+// The visible children of that kind.
+template <class Control>
+std::vector<Control*> Shown(const QWidget& window) {
+    std::vector<Control*> shown;
+    for (Control* control : window.findChildren<Control*>()) {
+        if (control->isVisible()) {
+            shown.push_back(control);
+        }
+    }
+    return shown;
+}
 
 } // namespace orvel::testing
