@@ -61,9 +61,7 @@ CellEditor::CellEditor(MeasurementGrid& ofGrid, QWidget* parent) : QLineEdit(par
     setAcceptDrops(false);
     // Composed characters come without key events.
     setAttribute(Qt::WA_InputMethodEnabled, false);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Base, colors.color(QPalette::Light));
-    setPalette(colors);
+    UseEdgeColor();
     hide();
 }
 
@@ -83,6 +81,22 @@ void CellEditor::keyPressEvent(QKeyEvent* event) {
     const int character = TypedCharacter(*event);
     if (character == kNoCharacterTyped || MeasurementGrid::txtEdit_KeyPress(character) != 0) {
         QLineEdit::keyPressEvent(event);
+    }
+}
+
+void CellEditor::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        UseEdgeColor();
+    }
+}
+
+void CellEditor::UseEdgeColor() {
+    const QColor edge = palette().color(QPalette::Light);
+    if (palette().color(QPalette::Base) != edge) {
+        QPalette change;
+        change.setColor(QPalette::Base, edge);
+        setPalette(change);
     }
 }
 

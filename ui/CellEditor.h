@@ -23,10 +23,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void PasteDigits();
+    // The background that the theme has for light edges.
+    void UseEdgeColor();
 
     MeasurementGrid& grid;
     QWidget* turned = nullptr;

@@ -4,6 +4,7 @@
 
 #include "ui/Menus.h"
 #include "ui/NumericKeyFilter.h"
+#include "ui/OnScreen.h"
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
@@ -16,7 +17,6 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -78,7 +78,7 @@ void DataDialog::Complete(const std::function<void()>& saveAs) {
     FilterNumericBoxes();
     WatchEntries();
     logic->Form_Load();
-    resize(kStartSize.boundedTo(screen()->availableSize()));
+    resize(kStartSize.boundedTo(RoomFor(*this)));
 }
 
 void DataDialog::SetTabOrder() {

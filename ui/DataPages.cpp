@@ -3,8 +3,10 @@
 #include "ui/DataPages.h"
 
 #include "ui/Form.h"
+#include "ui/ScrollingArea.h"
 #include "ui/UncaughtError.h"
 
+#include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
@@ -16,11 +18,11 @@
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace orvel::ui {
 
@@ -34,7 +36,11 @@ public:
         setInsertPolicy(NoInsert);
         setCompleter(nullptr);
         setFocusPolicy(Qt::StrongFocus);
+        setSizeAdjustPolicy(AdjustToContents);
     }
+
+    // The opened list is no wider than the box.
+    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void wheelEvent(QWheelEvent* event) override {
@@ -125,12 +131,24 @@ QWidget* NewTips() {
 
 DataPages::DataPages(DataWindow& ofWindow) : logic(ofWindow) {
     setObjectName("tabPages");
-    // A menu bar that is used by keys gives them back to where they were, be that hidden by now.
     connect(this, &QTabWidget::currentChanged, this, [this] {
-        if (qobject_cast<QMenuBar*>(window()->focusWidget()) != nullptr) {
+        const QWidget* withKeys = window()->focusWidget();
+        if (qobject_cast<const QMenuBar*>(withKeys) != nullptr) {
+            // It gives them back to where they were, be that hidden by now.
             tabBar()->setFocus();
+        } else if (withKeys != nullptr && !isAncestorOf(withKeys)) {
+            // Else what is typed into the page would press a button below it.
+            FocusFirst();
         }
     });
+}
+
+void DataPages::FocusFirst() {
+    const auto first = std::ranges::find_if(
+        controls, [this](const QWidget* control) { return currentWidget()->isAncestorOf(control); });
+    if (first != controls.end()) {
+        (*first)->setFocus(Qt::TabFocusReason);
+    }
 }
 
 void DataPages::AddClientPage() {
@@ -179,15 +197,7 @@ void DataPages::AddCommentsPage() {
 }
 
 void DataPages::AddScrolled(QWidget* page, const char* caption) {
-    auto* area = new QScrollArea;
-    area->setWidget(page);
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    // The pages keep the background of their frame.
-    area->viewport()->setAutoFillBackground(false);
-    page->setAutoFillBackground(false);
-    addTab(area, caption);
+    addTab(new ScrollingArea(page), caption);
 }
 
 void DataPages::AddPage(const Page& page) {
@@ -263,6 +273,12 @@ QWidget* DataPages::NewGrid() {
     table = new MeasurementTable(logic.Grid(), editor->sizeHint().height(), page);
     editor->setFont(table->font());
     editor->TurnWithWheel(table->verticalScrollBar());
+    // A page that scrolls follows the cell that is typed into.
+    connect(table->selectionModel(), &QItemSelectionModel::currentChanged, table, [this] {
+        if (table->hasFocus() || editor->hasFocus()) {
+            dynamic_cast<ScrollingArea&>(*currentWidget()).Follow(*table);
+        }
+    });
     layout->addWidget(table);
     page->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     // Leaving the editor with Tab goes to the grid, which takes the text.
@@ -283,6 +299,7 @@ QWidget* DataPages::NewControl(const LabelledControl& labelled) {
         auto* list = new EntryList;
         // A list's own name is the text it shows.
         list->lineEdit()->setAccessibleName(labelled.label);
+        list->view()->setAccessibleName(labelled.label);
         KeepOneLine(*list->lineEdit());
         control = list;
     } else if (name.ends_with("Comments")) {

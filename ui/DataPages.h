@@ -68,6 +68,8 @@ public:
     [[nodiscard]] const std::vector<QWidget*>& InTabOrder() const { return controls; }
 
 private:
+    // Of the controls on the page that is shown.
+    void FocusFirst();
     // A page that scrolls where the screen is too small for it.
     void AddScrolled(QWidget* page, const char* caption);
     [[nodiscard]] QWidget* NewControl(const LabelledControl& labelled);

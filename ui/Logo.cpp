@@ -5,6 +5,9 @@
 #include "ui/Form.h"
 
 #include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
 #include <QVariant>
 
 // The linker leaves out the resources of a static library that nobody names. The macro wants no namespace
@@ -16,6 +19,37 @@ static void NameResources() {
 
 namespace orvel::ui {
 
+namespace {
+
+// Asks for the theme whenever it is drawn: that may change while its window is open.
+class LineIconEngine : public QIconEngine {
+public:
+    explicit LineIconEngine(QIcon ofLines) : lines(std::move(ofLines)) {}
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        constexpr QColor kOnDark(0xc3, 0xcc, 0xd5);
+        constexpr int kMiddle = 128;
+        QPixmap picture = lines.pixmap(size, 1, mode, state);
+        if (QGuiApplication::palette().color(QPalette::Window).lightness() < kMiddle) {
+            QPainter painter(&picture);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(picture.rect(), kOnDark);
+        }
+        return picture;
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override {
+        painter->drawPixmap(rect, pixmap(rect.size(), mode, state));
+    }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new LineIconEngine(*this); }
+
+private:
+    QIcon lines;
+};
+
+} // namespace
+
 QIcon SharedIcon(const QString& file) {
     NameResources();
     const QByteArray name = "icon of " + file.toUtf8();
@@ -25,6 +59,10 @@ QIcon SharedIcon(const QString& file) {
         qApp->setProperty(name, icon);
     }
     return icon.value<QIcon>();
+}
+
+QIcon LineIcon(const QString& file) {
+    return QIcon(new LineIconEngine(SharedIcon(file)));
 }
 
 QIcon ProgramIcon() {

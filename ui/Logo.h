@@ -12,6 +12,9 @@ namespace orvel::ui {
 [[nodiscard]] QIcon SharedIcon(const QString& file);
 [[nodiscard]] QIcon ProgramIcon();
 
+// The same for a picture of lines in one colour: in a dark theme they are light.
+[[nodiscard]] QIcon LineIcon(const QString& file);
+
 // A label "imgLogo" with the program's picture, of that size in logical pixels.
 [[nodiscard]] QLabel* NewLogo(int size);
 

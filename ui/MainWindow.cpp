@@ -4,6 +4,8 @@
 
 #include "core/Version.h"
 #include "ui/Menus.h"
+#include "ui/OnScreen.h"
+#include "ui/ScrollingArea.h"
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
@@ -22,11 +24,12 @@ MainWindow::MainWindow(ProgramWindows& windows) : logic(*this, windows) {
     setObjectName("frmMain");
     setWindowTitle(kProgramTitle);
     AddMenus();
-    setCentralWidget(NewSteps());
+    setCentralWidget(new ScrollingArea(NewSteps()));
     status = new QLabel;
     status->setObjectName("sbStatusBar");
     status->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(status, 1);
+    SizeToContent(*this);
 }
 
 void MainWindow::Load() {

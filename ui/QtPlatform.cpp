@@ -42,6 +42,22 @@ QMessageBox::Icon IconOf(Icon icon) {
     }
 }
 
+// What the picture of a box says.
+const char* NameOf(Icon icon) {
+    switch (icon) {
+    case Icon::Critical:
+        return "Error";
+    case Icon::Question:
+        return "Question";
+    case Icon::Information:
+        return "Information";
+    case Icon::Warning:
+        return "Warning";
+    default:
+        return "";
+    }
+}
+
 QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
     switch (buttons) {
     case Buttons::YesNo:
@@ -110,6 +126,7 @@ Reply QtMessageBox::Show(const Message& message) {
     QMessageBox box(IconOf(message.icon), ToQt(message.title), WithLineBreaks(ToQt(message.text)),
                     ButtonsOf(message.buttons), WindowInFront());
     box.setTextFormat(Qt::PlainText);
+    box.findChild<QLabel*>("qt_msgboxex_icon_label")->setAccessibleName(NameOf(message.icon));
     LetLongTextScroll(box);
     return ReplyOf(box.exec());
 }

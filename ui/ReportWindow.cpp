@@ -5,6 +5,7 @@
 #include "ui/InFront.h"
 #include "ui/Logo.h"
 #include "ui/Menus.h"
+#include "ui/OnScreen.h"
 #include "ui/TextEdge.h"
 #include "ui/Twips.h"
 #include "ui/UncaughtError.h"
@@ -26,17 +27,18 @@ struct ToolButtonItem {
     const char* key = nullptr; // none: a gap
     const char* tip = nullptr;
     const char* shortcut = nullptr; // of those that show a state; the others have theirs in the menus
+    bool isOfLines = false;         // its picture has one colour
 };
 
 constexpr std::array<ToolButtonItem, 12> kToolButtons = {{
-    {"Back", "Close the report and go back"},
+    {"Back", "Close the report and go back", nullptr, true},
     {},
     {"Open", "Open a rich-text file"},
     {"Save", "Save the report as rich text"},
     {"Print", "Print the report"},
     {},
-    {"Bold", "Make the whole text bold, or not (Ctrl+B)", "Ctrl+B"},
-    {"Italic", "Make the whole text italic, or not (Ctrl+I)", "Ctrl+I"},
+    {"Bold", "Make the whole text bold, or not (Ctrl+B)", "Ctrl+B", true},
+    {"Italic", "Make the whole text italic, or not (Ctrl+I)", "Ctrl+I", true},
     {"Lock", "Protect the text from changes, or not (Ctrl+L)", "Ctrl+L"},
     {},
     {"Help", "Show the instructions"},
@@ -147,8 +149,9 @@ void ReportWindow::AddToolBar() {
             bar->addSeparator();
             continue;
         }
+        const QString picture = QString(":/tools/%1.svg").arg(QString(item.key).toLower());
         QAction* action = bar->addAction(
-            SharedIcon(QString(":/tools/%1.svg").arg(QString(item.key).toLower())), item.key, this,
+            item.isOfLines ? LineIcon(picture) : SharedIcon(picture), item.key, this,
             [this, key = item.key] { Run([this, key] { logic.tbToolBar_ButtonClick(key); }); });
         tools.push_back(action);
         action->setObjectName(item.key);
@@ -171,9 +174,21 @@ void ReportWindow::FitOntoAScreen() {
     });
     const bool isReachable = home != screens.end();
     const QRect room = (isReachable ? *home : QGuiApplication::primaryScreen())->availableGeometry();
-    resize(size().boundedTo(room.size()));
+    const QSize frame(2 * kFrameBeside, kFrameAbove);
+    resize(size().boundedTo(room.size() - frame));
     if (!isReachable) {
         move(room.topLeft());
+        return;
+    }
+    QRegion unseen(QRect(pos(), size()));
+    for (const QScreen* screen : screens) {
+        unseen -= screen->availableGeometry();
+    }
+    if (!unseen.isEmpty()) {
+        // The status bar and the scroll bar are at the lower and right edge.
+        const QSize beside = room.size() - frame - size();
+        move(std::min(x(), room.left() + std::max(beside.width(), 0)),
+             std::min(y(), room.top() + std::max(beside.height(), 0)));
     }
 }
 

@@ -33,8 +33,8 @@ private:
     [[nodiscard]] std::function<void()> Event(Handler handler);
     void AddMenus();
     void AddToolBar();
-    // Keeps the window where somebody can reach it, and no larger than that screen, whatever it was on
-    // before.
+    // Keeps the window where somebody can reach it, no larger than that screen and not over its right or
+    // lower edge, whatever it was on before.
     void FitOntoAScreen();
 
     RichTextBox& ReportRTB() override { return *report; }

@@ -92,6 +92,11 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
     QFont font(kReportFont);
     font.setPointSize(kReportFontPoints);
     setFont(font);
+    // Paper, in every theme: the marks' colours, and those of a document, are made for it.
+    QPalette paper;
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    setPalette(paper);
     ShowDocument(NewDocument());
     // The documents of word processors do not speak HTML.
     setAcceptRichText(false);

@@ -4,6 +4,8 @@
 
 #include "core/Records.h"
 #include "ui/NumericKeyFilter.h"
+#include "ui/OnScreen.h"
+#include "ui/ScrollingArea.h"
 #include "ui/UncaughtError.h"
 
 #include <QGridLayout>
@@ -27,19 +29,21 @@ SoilIntakeDialog::SoilIntakeDialog(QWidget* parent) : QDialog(parent), Form(this
     setObjectName("frmSoilIntake");
     setWindowTitle("Soil Intake Rates");
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(NewTable());
-    layout->addStretch();
+    layout->addWidget(new ScrollingArea(NewTable()), 1);
     layout->addLayout(NewSaveAndCancel(*this, [this] { logic.cmdBtnSave_Click(); }));
     logic.Form_Load();
+    SizeToContent(*this);
 }
 
 void SoilIntakeDialog::reject() {
     Run([this] { logic.cmdBtnCancel_Click(); });
 }
 
-QLayout* SoilIntakeDialog::NewTable() {
+QWidget* SoilIntakeDialog::NewTable() {
     constexpr int kNameWidth = 200;
-    auto* table = new QGridLayout;
+    auto* area = new QWidget;
+    auto* table = new QGridLayout(area);
+    table->setContentsMargins(0, 0, 0, 0);
     table->addWidget(new QLabel("Soil Description"), 0, 0, 2, 1, Qt::AlignBottom);
     table->addWidget(new QLabel("Intake Rates"), 0, 1, 1, 2, Qt::AlignHCenter);
     table->addWidget(new QLabel("Minimum"), 1, 1, Qt::AlignRight);
@@ -55,7 +59,8 @@ QLayout* SoilIntakeDialog::NewTable() {
         table->addWidget(NewRateBox(frmSoilIntake::MinBox(row), "Minimum" + which), line, 1);
         table->addWidget(NewRateBox(frmSoilIntake::MaxBox(row), "Maximum" + which), line, 2);
     }
-    return table;
+    table->setRowStretch(table->rowCount(), 1);
+    return area;
 }
 
 } // namespace orvel::ui

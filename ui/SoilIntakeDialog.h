@@ -6,7 +6,6 @@
 #include "ui/Form.h"
 
 #include <QDialog>
-#include <QLayout>
 
 namespace orvel::ui {
 
@@ -18,7 +17,7 @@ public:
     void reject() override;
 
 private:
-    QLayout* NewTable();
+    QWidget* NewTable();
     void Unload() override { accept(); }
 
     frmSoilIntake logic{*this};

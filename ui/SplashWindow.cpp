@@ -12,7 +12,7 @@
 namespace orvel::ui {
 
 SplashWindow::SplashWindow(std::function<void()> onClose)
-    : QWidget(nullptr,
+    : QDialog(nullptr,
               Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       Form(this), whenClosed(std::move(onClose)) {
     constexpr int kLogoSize = 128;

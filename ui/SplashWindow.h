@@ -5,14 +5,14 @@
 #include "core/frmSplash.h"
 #include "ui/Form.h"
 
-#include <QWidget>
+#include <QDialog>
 #include <functional>
 
 namespace orvel::ui {
 
 // Shown while the program starts, above no other window. Its title bar and Escape close it, which calls
 // `onClose`.
-class SplashWindow : public QWidget, private Form {
+class SplashWindow : public QDialog, private Form {
 public:
     explicit SplashWindow(std::function<void()> onClose);
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/UserDataDialog.h"
 
+#include "ui/OnScreen.h"
+#include "ui/ScrollingArea.h"
 #include "ui/UncaughtError.h"
 
 #include <QFormLayout>
@@ -31,7 +33,9 @@ UserDataDialog::UserDataDialog(QWidget* parent) : QDialog(parent), Form(this) {
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, [this] { Run([this] { logic.cmdBtnBrowse_Click(); }); });
 
-    auto* fields = new QFormLayout;
+    auto* area = new QWidget;
+    auto* fields = new QFormLayout(area);
+    fields->setContentsMargins(0, 0, 0, 0);
     for (std::size_t i = 0; i < kLabels.size(); ++i) {
         const QString label = kLabels.at(i);
         QLineEdit* box =
@@ -50,10 +54,10 @@ UserDataDialog::UserDataDialog(QWidget* parent) : QDialog(parent), Form(this) {
     }
 
     auto* layout = new QVBoxLayout(this);
-    layout->addLayout(fields);
-    layout->addStretch();
+    layout->addWidget(new ScrollingArea(area), 1);
     layout->addLayout(NewSaveAndCancel(*this, [this] { logic.cmdBtnSave_Click(); }));
     logic.Form_Load();
+    SizeToContent(*this);
 }
 
 void UserDataDialog::reject() {

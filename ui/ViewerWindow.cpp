@@ -3,6 +3,7 @@
 #include "ui/ViewerWindow.h"
 
 #include "ui/InFront.h"
+#include "ui/OnScreen.h"
 #include "ui/TextEdge.h"
 #include "ui/UncaughtError.h"
 
@@ -12,13 +13,6 @@
 #include <QVBoxLayout>
 
 namespace orvel::ui {
-
-namespace {
-
-// What a window manager may draw beside a window, in pixels.
-constexpr int kFrame = 8;
-
-} // namespace
 
 ViewerWindow::ViewerWindow(QWidget* owner)
     : QDialog(owner, Qt::Window), text(new RichTextEdit(this)), logic(*this) {
@@ -38,9 +32,7 @@ ViewerWindow::ViewerWindow(QWidget* owner)
     layout->addLayout(buttons);
 
     constexpr QSize kStartSize(660, 560);
-    constexpr int kForTitleBar = 40;
-    const QSize room = screen()->availableSize() - QSize(2 * kFrame, kForTitleBar);
-    resize(kStartSize.boundedTo(room));
+    resize(kStartSize.boundedTo(RoomFor(*this)));
 }
 
 void ViewerWindow::ShowTopic(std::string_view what) {
@@ -65,7 +57,7 @@ void ViewerWindow::Show() {
     if (!isVisible()) {
         // At the side, where it covers little of what it explains.
         const QRect room = screen()->availableGeometry();
-        move(room.right() + 1 - width() - kFrame, room.top());
+        move(room.right() + 1 - width() - kFrameBeside, room.top());
     }
     BringToFront(*this);
     text->setFocus();

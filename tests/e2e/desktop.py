@@ -158,6 +158,17 @@ class Desktop:
     def minimize(self, title):
         self._xdotool("search", "--onlyvisible", "--name", f"^{title}$", "windowminimize")
 
+    def press_key_until(self, key, name, role):
+        """Until the control of that name has the keys."""
+        def has_keys():
+            return self.find(name, role).get_state_set().contains(self.bus.StateType.FOCUSED)
+        for _ in range(100):
+            if has_keys():
+                return
+            self.keys(key)
+            time.sleep(0.05)
+        raise AssertionError("%s does not lead to %s" % (key, name))
+
     def type(self, text):
         self._xdotool("type", "--delay", "5", text.replace("\n", "\r"))
 

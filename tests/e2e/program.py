@@ -5,6 +5,7 @@
 A test's main program takes the paths of the program and of the command line: test_x.py PROGRAM COMMAND-LINE [TEST...]
 """
 
+import json
 import pathlib
 import subprocess
 import sys
@@ -36,6 +37,17 @@ def command_line(*arguments):
     return subprocess.run([COMMAND_LINE, *map(str, arguments)], capture_output=True, check=True).stdout
 
 
+def pivot_to_type():
+    """A center-pivot test as a field sheet has it, and its readings: cups 20 feet apart."""
+    test = json.loads((EXAMPLES / "pivot-1978.json").read_text(encoding="utf-8"))
+    readings = [cup["Volume"] for cup in test["Gauges"]]
+    test |= {"DistanceToFirstGuage": "20", "GuageSpacing": "20",
+             "Gauges": [{"Footage": 20 * cup, "Volume": 0} for cup in range(1, 301)]}
+    for cup, reading in zip(test["Gauges"], readings):
+        cup["Volume"] = reading
+    return test, readings
+
+
 def wait_for_a_calm_second():
     """The pause of the start-up never ends when it begins at second 58."""
     while time.localtime().tm_sec >= 50:
@@ -54,6 +66,12 @@ class ProgramTest(unittest.TestCase):
         wait_for_a_calm_second()
         self.addCleanup(desktop.end)
         desktop.open([*under, PROGRAM, "--program-dir", str(self.folder), *map(str, arguments)])
+
+    def built(self, test, name):
+        """The bytes of the test file that the command line builds."""
+        (self.folder / "test.json").write_text(json.dumps(test), encoding="utf-8")
+        command_line("build", self.folder / "test.json", "-o", self.folder / name)
+        return (self.folder / name).read_bytes()
 
 
 def main():

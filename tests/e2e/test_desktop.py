@@ -7,7 +7,7 @@ import os
 import struct
 import subprocess
 
-from program import COMMAND_LINE, EXAMPLES, PROGRAM, ProgramTest, desktop, main, text, user_settings
+from program import EXAMPLES, PROGRAM, ProgramTest, desktop, main, pivot_to_type, text, user_settings
 
 VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
 
@@ -54,12 +54,6 @@ class DesktopTest(ProgramTest):
         desktop.keys("ctrl+q")
         self.assertEqual(desktop.status(), 0)
         self.assertEqual(new.read_bytes(), record)
-
-    def built(self, test, name):
-        """The bytes of the test file that the command line builds."""
-        (self.folder / "test.json").write_text(json.dumps(test), encoding="utf-8")
-        subprocess.run([COMMAND_LINE, "build", self.folder / "test.json", "-o", self.folder / name], check=True)
-        return (self.folder / name).read_bytes()
 
     def new_test_in_its_window(self, kind, extension):
         self.program()
@@ -108,14 +102,7 @@ class DesktopTest(ProgramTest):
         desktop.wait_until_gone(window, "dialog")
 
     def test_a_center_pivot_test_is_typed_from_the_field_sheet(self):
-        test = json.loads((EXAMPLES / "pivot-1978.json").read_text(encoding="utf-8"))
-        readings = [cup["Volume"] for cup in test["Gauges"]]
-        self.assertEqual(len(readings), 56)
-        test |= {"DistanceToFirstGuage": "20", "GuageSpacing": "20",
-                 "Gauges": [{"Footage": 20 * cup, "Volume": 0} for cup in range(1, 301)]}
-        for cup, reading in zip(test["Gauges"], readings):
-            cup["Volume"] = reading
-
+        test, readings = pivot_to_type()
         self.new_test_in_its_window("Center Pivot", "cpd")
         self.type_client(test)
         self.type_field(test, "Estimated Acres:", soil=4, slope=2, tillage=2)

@@ -361,7 +361,18 @@ TEST_F(ReportWindow, OutOfReachItComesToTheScreen) {
 TEST_F(ReportWindow, IsNoLargerThanItsScreenWhenItOpens) {
     store.values = {{"MainWidth", "1e9"}, {"MainHeight", "1e9"}};
     OpenEmpty();
-    EXPECT_EQ(window->size(), QGuiApplication::primaryScreen()->availableSize());
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(window->size(), screen.size() - QSize(10, 40)) << "with room for a frame";
+    EXPECT_EQ(window->pos(), screen.topLeft());
+}
+
+TEST_F(ReportWindow, OverTheLowerOrRightEdgeItComesBack) {
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    store.values = {{"MainLeft", std::to_string(15 * (screen.width() - 300))},
+                    {"MainTop", std::to_string(15 * (screen.height() - 200))}};
+    OpenEmpty();
+    EXPECT_EQ(window->pos(),
+              QPoint(screen.width() - 10 - window->width(), screen.height() - 40 - window->height()));
 }
 
 TEST_F(ReportWindow, TheReportFollowsTheSizeOfTheWindow) {

@@ -10,5 +10,7 @@ int main(int argc, char** argv) {
     const orvel::testing::OwnHome home;
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    return RUN_ALL_TESTS();
+    const int status = RUN_ALL_TESTS();
+    // A filter that fits nothing is a mistake.
+    return testing::UnitTest::GetInstance()->test_to_run_count() == 0 ? EXIT_FAILURE : status;
 }
