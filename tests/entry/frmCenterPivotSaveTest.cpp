@@ -249,7 +249,7 @@ TEST_F(FrmCenterPivotSave, SaveAsWritesAnotherFileWhichBecomesTheCurrentOne) {
     PutContents(File(), "old");
     Load();
     view.Put("txtBoxClientName", "");
-    Program().userSettings.DefaultDirectory = "  " + folder.Path().native();
+    Program().userSettings.DefaultDirectory = "  " + folder.Path().string();
     for (const bool isButton : {false, true}) {
         const std::string name = isButton ? "b.cpd" : "a.cpd";
         surroundings.paths = {folder / name};
@@ -260,7 +260,7 @@ TEST_F(FrmCenterPivotSave, SaveAsWritesAnotherFileWhichBecomesTheCurrentOne) {
                           window.mnuFileSaveAs_Click();
                       }
                   }),
-                  (Lines{Dialog(folder.Path().native())}))
+                  (Lines{Dialog(folder.Path().string())}))
             << "and no check, though the name is missing";
         EXPECT_EQ(Program().centerPivotFile, folder / name);
         EXPECT_EQ(view.Text("labelFile"), name);
@@ -279,7 +279,7 @@ TEST_F(FrmCenterPivotSave, ACancelledSaveAsLeavesTheFileButNotTheProgramsRecord)
     Load();
     view.Put("txtBoxClientName", "Ann");
     view.Put("labelFile", "as it was");
-    Program().userSettings.DefaultDirectory = (folder / "none").native();
+    Program().userSettings.DefaultDirectory = (folder / "none").string();
     EXPECT_EQ(SaveAs({}), (Lines{Dialog("")})) << "there is no such folder";
     Program().userSettings.DefaultDirectory = "";
     EXPECT_EQ(SaveAs({}), (Lines{Dialog("")}));

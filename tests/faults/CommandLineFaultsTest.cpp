@@ -4,6 +4,7 @@
 #include "core/RecordFiles.h"
 #include "tests/faults/Saving.h"
 #include "tests/support/CompleteUserSettings.h"
+#include "tests/support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -33,16 +34,12 @@ protected:
     void ExpectSafeCall(Lines arguments, const Lines& outputs) {
         arguments.insert(arguments.begin(), "orvel-cli");
         arguments.insert(arguments.end(), {"--program-dir", inputs.Path(), "--now", "2026-07-04 09:05:03"});
-        std::vector<const char*> argv;
-        for (const std::string& argument : arguments) {
-            argv.push_back(argument.c_str());
-        }
         const std::string ofOutput = "orvel-cli: " + folder.Path().native() + "/&";
         const std::string ofInput = "orvel-cli: " + inputs.Path().native() + "/&";
         Saving saving = {
             .folder = folder.Path(),
             .files = {},
-            .save = [&] { status = cli::RunCommandLine(static_cast<int>(argv.size()), argv.data()); },
+            .save = [&] { status = cli::RunCommandLine(arguments); },
             .said = [this] { return Told(); },
             // A folder of the call that cannot be looked at makes it a wrong call.
             .failures = {{ofOutput, "status 3"},

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "cli/Terminal.h"
+
+#include "core/windows/Api.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <initializer_list>
+#include <io.h>
+
+namespace orvel::cli {
+
+namespace {
+
+bool IsTerminal(DWORD stream) {
+    DWORD mode = 0;
+    return ::GetConsoleMode(::GetStdHandle(stream), &mode) != 0;
+}
+
+} // namespace
+
+Terminal::Terminal() {
+    for (std::FILE* stream : {stdin, stdout, stderr}) {
+        (void)::_setmode(::_fileno(stream), _O_BINARY);
+    }
+    if (IsTerminal(STD_OUTPUT_HANDLE) || IsTerminal(STD_ERROR_HANDLE)) {
+        codePageBefore = ::GetConsoleOutputCP();
+        ::SetConsoleOutputCP(CP_UTF8);
+    }
+}
+
+Terminal::~Terminal() {
+    if (codePageBefore != 0) {
+        // What is still on its way would be shown in the other page.
+        (void)std::fflush(stdout);
+        ::SetConsoleOutputCP(codePageBefore);
+    }
+}
+
+} // namespace orvel::cli

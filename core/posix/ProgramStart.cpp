@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The ORVEL developers
+// SPDX-License-Identifier: MIT
+#include "core/ProgramStart.h"
+
+#include <csignal>
+
+namespace orvel {
+
+void SurviveFileSizeLimit() {
+    (void)std::signal(SIGXFSZ, SIG_IGN);
+}
+
+std::vector<std::string> CallArguments(int argc, const char* const* argv) {
+    return {argv, argv + argc};
+}
+
+} // namespace orvel
