@@ -57,9 +57,14 @@ UINT PageOf(std::string_view name) {
     return found == kSets.end() ? kNoPage : found->page;
 }
 
-// The system puts bytes to which a page assigns nothing into the private area, and single bytes there only.
-bool IsUnassigned(wchar_t character) {
-    return character >= 0xE000 && character <= 0xF8FF;
+// Bytes to which a page assigns nothing: the system gives them a character of the private area or, in its own
+// pages, the control character of the same number.
+bool IsUnassigned(UINT page, std::size_t byte, wchar_t character) {
+    constexpr UINT kFirstWindows = 1250;
+    constexpr UINT kThai = 874;
+    const bool isOfWindows = (page >= kFirstWindows && page <= kVietnamese) || page == kThai;
+    const bool isControl = byte >= 0x80 && byte < 0xA0 && character == byte;
+    return (isOfWindows && isControl) || (character >= 0xE000 && character <= 0xF8FF);
 }
 
 std::wstring Converted(UINT page, std::string_view bytes) {
@@ -91,7 +96,7 @@ public:
                 const std::wstring text = Converted(page, {&byte, 1});
                 if (::IsDBCSLeadByteEx(page, static_cast<BYTE>(i)) != 0) {
                     kinds[i] = Kind::Lead;
-                } else if (text.size() == 1 && !IsUnassigned(text.front())) {
+                } else if (text.size() == 1 && !IsUnassigned(page, i, text.front())) {
                     kinds[i] = Kind::Character;
                     characters[i] = text.front();
                 }

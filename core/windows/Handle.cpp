@@ -125,7 +125,7 @@ bool IsMissing(DWORD error) {
 std::wstring SystemName(const fs::path& path) {
     const std::wstring full = FullName(path);
     if (full.size() < kLongestPlain || full.starts_with(kLongPrefix) || full.starts_with(kDevicePrefix)) {
-        return path.native();
+        return full;
     }
     return full.starts_with(LR"(\\)") ? std::wstring(kLongShare) + full.substr(2)
                                       : std::wstring(kLongPrefix) + full;

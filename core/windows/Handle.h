@@ -28,7 +28,7 @@ inline constexpr DWORD kSharedWithNone = 0;
 // Whether the system says that there is no such file.
 [[nodiscard]] bool IsMissing(DWORD error);
 
-// The name as the system's calls take it, also one longer than 260 characters.
+// The full name as the system's calls take it, also one longer than 260 characters; empty for an empty path.
 [[nodiscard]] std::wstring SystemName(const std::filesystem::path& path);
 
 // Whether the name is a device's or a pipe's: NUL, CON, COM1, \\.\pipe\name.

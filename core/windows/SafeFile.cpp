@@ -169,6 +169,10 @@ void ReplacePrivately(const fs::path& path, std::string_view content) {
     WriteAll(temporary.Get(), content);
     FlushToDisk(temporary.Get());
     if (!temporary.TakeName(path, TemporaryFile::OldFile::Goes)) {
+        const DWORD attributes = ::GetFileAttributesW(SystemName(path).c_str());
+        if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+            throw FileError("cannot replace the file", EISDIR);
+        }
         FailedTo("replace the file", temporary.Error());
     }
 }
@@ -194,8 +198,9 @@ void ReplaceFile(const fs::path& path, std::string_view content, Flush flush) {
     if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
         throw FileError("cannot write to what is no file", EISDIR);
     }
-    // The replacement asks for neither the attribute of a read-only file nor its access list.
-    if (!OpenExisting(target, FILE_WRITE_DATA).IsOpen() && ::GetLastError() == ERROR_ACCESS_DENIED) {
+    // The replacement asks for neither this attribute nor who may write the file.
+    if ((attributes & FILE_ATTRIBUTE_READONLY) != 0 ||
+        (!OpenExisting(target, FILE_WRITE_DATA).IsOpen() && ::GetLastError() == ERROR_ACCESS_DENIED)) {
         throw FileError("cannot open for writing", EACCES);
     }
     ReplaceByRename(target, true, content, flush);

@@ -83,6 +83,10 @@ DWORD Moved(const std::wstring& from, const std::wstring& to) {
 }
 
 DWORD Replaced(const std::wstring& from, const std::wstring& to) {
+    // What the call asks for itself; where it fails, it may leave litter of its own.
+    if (!OpenExisting(to, GENERIC_READ | DELETE).IsOpen()) {
+        return ::GetLastError();
+    }
     if (::ReplaceFileW(to.c_str(), from.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
                        nullptr) != 0) {
         return ERROR_SUCCESS;

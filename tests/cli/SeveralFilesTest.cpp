@@ -119,9 +119,10 @@ TEST_F(SeveralFiles, ExportsAreNamedAfterTheirTests) {
 }
 
 TEST_F(SeveralFiles, FilesThatWouldShareAnOutputAreAWrongCallAndNothingIsWritten) {
-    std::filesystem::copy_file(kPivot, folder / "good.CPD");
-    const RunResult run =
-        RunProgram({"report", "--output-dir", Out(""), kPivot, folder / "good.cpd", folder / "good.CPD"});
+    std::filesystem::create_directory(folder / "other");
+    std::filesystem::copy_file(kPivot, folder / "other/good.CPD");
+    const RunResult run = RunProgram(
+        {"report", "--output-dir", Out(""), kPivot, folder / "good.cpd", folder / "other/good.CPD"});
     EXPECT_EQ(run.status, 2);
     EXPECT_TRUE(std::filesystem::is_empty(Out("")));
 }

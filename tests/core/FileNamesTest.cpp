@@ -83,19 +83,22 @@ TEST_F(FileNamesTest, NamesAFileWithoutItsFolder) {
 }
 
 TEST_F(FileNamesTest, ShowsNamesInTheCodePage) {
-    EXPECT_EQ(FileNameText("/h\xC3\xB6"
-                           "fe/Pr\xC3\xBC"
-                           "fung \xE2\x82\xAC.cpd"),
+    const auto name = [](const char* path) { return FileNameText(PathOfSystemText(path)); };
+    const auto whole = [](const char* path) { return PathText(PathOfSystemText(path)); };
+    EXPECT_EQ(name("/h\xC3\xB6"
+                   "fe/Pr\xC3\xBC"
+                   "fung \xE2\x82\xAC.cpd"),
               "Pr\xFC"
               "fung \x80.cpd");
-    EXPECT_EQ(PathText("/h\xC3\xB6"
-                       "fe/a.cpd"),
+    EXPECT_EQ(whole("/h\xC3\xB6"
+                    "fe/a.cpd"),
               "/h\xF6"
               "fe/a.cpd");
     // What the page lacks.
-    EXPECT_EQ(FileNameText("/a/\xE6\xB0\xB4.cpd"), "?.cpd");
-    EXPECT_EQ(PathText("/\xE6\xB0\xB4/a.cpd"), "/?/a.cpd");
-    EXPECT_EQ(PathText(""), "");
+    EXPECT_EQ(name("/a/\xE6\xB0\xB4.cpd"), "?.cpd");
+    EXPECT_EQ(whole("/\xE6\xB0\xB4/a.cpd"), "/?/a.cpd");
+    EXPECT_EQ(whole(""), "");
+    EXPECT_EQ(PathUtf8(PathOfSystemText("/\xE6\xB0\xB4/a.cpd")), "/\xE6\xB0\xB4/a.cpd");
 }
 
 TEST_F(FileNamesTest, MatchesExtensionsInAnyCase) {

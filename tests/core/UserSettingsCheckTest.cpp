@@ -57,7 +57,8 @@ TEST_F(UserSettingsCheck, TheDefaultFolderIsTheDirectoryIfThereIsOne) {
     EXPECT_EQ(DefaultFolder(), "");
     Program().userSettings.DefaultDirectory = " " + folder.Path().string();
     EXPECT_EQ(DefaultFolder(), folder.Path());
-    EXPECT_EQ(Program().userSettings.DefaultDirectory.Whole().front(), '/') << "trimmed in the record";
+    EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), folder.Path().string())
+        << "trimmed in the record";
     Program().userSettings.DefaultDirectory = (folder / "none").string();
     EXPECT_EQ(DefaultFolder(), "");
     testing::PutContents(folder / "file", "");

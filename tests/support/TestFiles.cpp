@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/TestFiles.h"
 
+#include "core/FileNames.h"
+
 #include <algorithm>
 #include <fstream>
 #include <random>
@@ -53,6 +55,10 @@ TemporaryFolder::~TemporaryFolder() {
     std::error_code error;
     fs::permissions(path, fs::perms::owner_all, error);
     fs::remove_all(path, error);
+}
+
+TextPath TemporaryFolder::operator/(const std::string& name) const {
+    return TextPath(path / PathOfSystemText(name));
 }
 
 std::vector<std::string> TemporaryFolder::Names() const {

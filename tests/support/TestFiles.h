@@ -29,7 +29,8 @@ public:
 
     [[nodiscard]] const TextPath& Path() const { return path; }
 
-    [[nodiscard]] TextPath operator/(const std::string& name) const { return TextPath(path / name); }
+    // The name is a text of the system (core/FileNames).
+    [[nodiscard]] TextPath operator/(const std::string& name) const;
 
     // The names in the folder, sorted; a test asks for them to see that no litter stayed.
     [[nodiscard]] std::vector<std::string> Names() const;

@@ -132,8 +132,8 @@ TEST_F(CommandsOnWindows, SettingsAreThoseOfTheProgramsFolder) {
     SaveUserSettings(CompleteUserSettings());
     EXPECT_TRUE(fs::exists(program / "user.usr"));
     const fs::path out = folder / "out.txt";
-    std::wstring command = L"orvel-cli report \"" + fs::path(folder / "a.cpd").native() + L"\" -o \"" +
-                           out.native() + L"\" --now \"2026-07-04 09:05:03\"";
+    std::wstring command = L"orvel-cli report \"" + fs::path(Example("pivot-1978.cpd")).native() +
+                           L"\" -o \"" + out.native() + L"\" --now \"2026-07-04 09:05:03\"";
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION started{};

@@ -5,6 +5,7 @@
 #include "tests/support/TestFiles.h"
 
 #include <gtest/gtest.h>
+#include <initializer_list>
 #include <sys/stat.h>
 
 namespace orvel {
@@ -27,8 +28,8 @@ TEST(FileIdentityOnPosix, NothingAndADeviceAndAPipeHaveNone) {
     const TemporaryFolder folder;
     fs::create_symlink("nowhere", folder / "dangling");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-    for (const fs::path& path :
-         {folder / "missing", folder / "dangling", folder / "pipe", fs::path("/dev/null")}) {
+    for (const fs::path& path : std::initializer_list<fs::path>{folder / "missing", folder / "dangling",
+                                                                folder / "pipe", fs::path("/dev/null")}) {
         EXPECT_FALSE(IdentityOf(path)) << path;
     }
 }

@@ -56,6 +56,18 @@ TEST_F(RecordFilesOnPosix, PassesTheFailureToWriteSettings) {
     EXPECT_EQ(Contents(settingsFile), std::string(352, 'x'));
 }
 
+TEST_F(RecordFilesOnPosix, ReachesTheSettingsFilesBehindAForwardSlash) {
+    // An existing "/" stays, and a backslash in a folder's name is no separator.
+    const fs::path odd = folder / "odd\\name";
+    fs::create_directory(odd);
+    Program().programDirectory = odd.string() + "/";
+    LoadUserSettings();
+    LoadSoilTable();
+    EXPECT_TRUE(fs::is_regular_file(odd / "user.usr"));
+    EXPECT_TRUE(fs::is_regular_file(odd / "soil.dat"));
+    EXPECT_EQ(folder.Names(), Names{"odd\\name"});
+}
+
 template <class T>
 class TestFilesOnPosix : public ::testing::Test {
 protected:

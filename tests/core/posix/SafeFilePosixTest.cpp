@@ -14,6 +14,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <grp.h>
+#include <initializer_list>
 #include <string>
 #include <sys/inotify.h>
 #include <sys/resource.h>
@@ -329,10 +330,10 @@ TEST_P(SafeFileOnPosix, WritesADeviceStraight) {
     fs::create_symlink("/dev/null", folder / "null");
     // An ordinary user could not do any harm to the devices.
     const AsOrdinaryUser user(folder.Path());
-    for (const fs::path& full : {fs::path("/dev/full"), folder / "full"}) {
+    for (const fs::path& full : std::initializer_list<fs::path>{fs::path("/dev/full"), folder / "full"}) {
         ExpectNotReplaced(full, ErrorNumber::DiskFull);
     }
-    for (const fs::path& null : {fs::path("/dev/null"), folder / "null"}) {
+    for (const fs::path& null : std::initializer_list<fs::path>{fs::path("/dev/null"), folder / "null"}) {
         Replace(null, std::string(100000, 'x'));
         EXPECT_EQ(Contents(null), "");
     }
@@ -358,8 +359,8 @@ TEST_P(SafeFileOnPosix, WritesAPipeWithoutANameStraight) {
     ASSERT_EQ(::pipe(ends.data()), 0);
     fs::create_symlink("/dev/fd/" + std::to_string(ends[1]), folder / "link");
     const std::string number = std::to_string(ends[1]);
-    for (const fs::path& path :
-         {fs::path("/dev/fd/" + number), fs::path("/proc/self/fd/" + number), folder / "link"}) {
+    for (const fs::path& path : std::initializer_list<fs::path>{
+             fs::path("/dev/fd/" + number), fs::path("/proc/self/fd/" + number), folder / "link"}) {
         Replace(path, "through the pipe");
         std::array<char, 64> buffer{};
         EXPECT_EQ(::read(ends[0], buffer.data(), buffer.size()), 16);
@@ -394,7 +395,8 @@ TEST_P(SafeFileOnPosix, RefusesAFolderAndASocket) {
     file.string().copy(&address.sun_path[0], sizeof address.sun_path - 1);
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): bind asks for it
     ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-    for (const fs::path& path : {folder / "folder", folder / "link", folder / "folder/", file}) {
+    for (const fs::path& path :
+         std::initializer_list<fs::path>{folder / "folder", folder / "link", folder / "folder/", file}) {
         ExpectNotReplaced(path, ErrorNumber::PathFileAccessError);
     }
     ::close(socket);
