@@ -228,12 +228,8 @@ int ReadAndRun(const std::vector<std::string>& arguments) {
     }
     AddBuild(app, options);
     try {
-        // It takes them off the end, and wants no program's name.
-        std::vector<std::string> rest(arguments.rbegin(), arguments.rend());
-        if (!rest.empty()) {
-            rest.pop_back();
-        }
-        app.parse(rest);
+        // It takes them off the end.
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::Success& request) {
         // --help or --version.
         std::ostringstream text;

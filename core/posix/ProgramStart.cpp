@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/ProgramStart.h"
 
+#include <algorithm>
 #include <csignal>
 
 namespace orvel {
@@ -11,7 +12,7 @@ void SurviveFileSizeLimit() {
 }
 
 std::vector<std::string> CallArguments(int argc, const char* const* argv) {
-    return {argv, argv + argc};
+    return {argv + std::min(argc, 1), argv + argc};
 }
 
 } // namespace orvel

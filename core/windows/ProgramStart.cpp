@@ -5,6 +5,7 @@
 #include "core/FileNames.h"
 #include "core/windows/Api.h"
 
+#include <algorithm>
 #include <memory>
 #include <shellapi.h>
 
@@ -19,10 +20,10 @@ std::vector<std::string> CallArguments(int argc, const char* const* argv) {
     const std::unique_ptr<LPWSTR, decltype(&::LocalFree)> words(
         ::CommandLineToArgvW(::GetCommandLineW(), &count), ::LocalFree);
     if (!words) {
-        return {argv, argv + argc};
+        return {argv + std::min(argc, 1), argv + argc};
     }
     std::vector<std::string> arguments;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 1; i < count; ++i) {
         arguments.push_back(PathUtf8(words.get()[i]));
     }
     return arguments;

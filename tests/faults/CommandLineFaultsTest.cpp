@@ -32,7 +32,6 @@ protected:
     ~CommandLineFaults() override { ::close(errors); }
 
     void ExpectSafeCall(Lines arguments, const Lines& outputs) {
-        arguments.insert(arguments.begin(), "orvel-cli");
         arguments.insert(arguments.end(), {"--program-dir", inputs.Path(), "--now", "2026-07-04 09:05:03"});
         const std::string ofOutput = "orvel-cli: " + folder.Path().native() + "/&";
         const std::string ofInput = "orvel-cli: " + inputs.Path().native() + "/&";
@@ -49,7 +48,7 @@ protected:
                          {"orvel-cli: --output-dir: no such folder: " + folder.Path().native(), "status 2"},
                          {"orvel-cli: --program-dir: no such folder: " + inputs.Path().native(), "status 2"}},
             .prepare = [this] { BeginErrors(); },
-            .isFlushed = arguments.at(1) == "build"};
+            .isFlushed = arguments.at(0) == "build"};
         for (const std::string& output : outputs) {
             saving.files.push_back(OldOutput(output));
         }

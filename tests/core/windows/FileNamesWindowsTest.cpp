@@ -3,7 +3,6 @@
 #include "core/FileIdentity.h"
 #include "core/FileNames.h"
 #include "core/FilePermissions.h"
-#include "core/ProgramStart.h"
 #include "core/windows/Handle.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
@@ -46,12 +45,6 @@ TEST_F(FileNamesOnWindows, TheExecutableHasAFolder) {
     const fs::path folder = FolderOfExecutable();
     EXPECT_TRUE(folder.is_absolute()) << folder;
     EXPECT_TRUE(FileExists(folder / "core_record_tests.exe")) << folder;
-}
-
-TEST_F(FileNamesOnWindows, TheCallsArgumentsAreThoseOfTheSystem) {
-    const std::vector<std::string> arguments = CallArguments(0, nullptr);
-    ASSERT_FALSE(arguments.empty());
-    EXPECT_NE(arguments.front().find("core_record_tests"), std::string::npos);
 }
 
 TEST_F(FileNamesOnWindows, ADeviceIsNoFileOfItsOwn) {
