@@ -73,10 +73,12 @@ TEST_P(SafeFileOnWindows, KeepsTheOldFileWhileAnotherProgramReadsIt) {
 
 TEST_P(SafeFileOnWindows, LeavesTheOldFileToWhoeverHasItOpenAndSharesItsName) {
     PutContents(file, "old");
-    const Handle reader = OpenExisting(file, GENERIC_READ);
-    Replace(file, "new");
-    EXPECT_EQ(ReadFrom(reader), "old");
-    EXPECT_EQ(Contents(file), "new");
+    {
+        const Handle reader = OpenExisting(file, GENERIC_READ);
+        Replace(file, "new");
+        EXPECT_EQ(ReadFrom(reader), "old");
+        EXPECT_EQ(Contents(file), "new");
+    }
     EXPECT_EQ(folder.Names(), Names{"file"});
 }
 
