@@ -8,18 +8,22 @@
 #include "cli/Output.h"
 #include "cli/Services.h"
 #include "core/CodePage.h"
+#include "core/FileNames.h"
 #include "core/ProgramDirectory.h"
 #include "core/ProgramState.h"
 #include "core/Version.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <array>
 #include <exception>
+#include <filesystem>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <system_error>
+#include <vector>
 
 namespace orvel::cli {
 
@@ -74,8 +78,7 @@ std::string NoName(const std::string& text) {
 }
 
 std::string NoFolder(const std::string& text) {
-    std::error_code error;
-    if (text.empty() || std::filesystem::is_directory(text, error)) {
+    if (text.empty() || FolderExists(PathOfSystemText(text))) {
         return NoName(text);
     }
     return "no such folder: " + text;
@@ -90,11 +93,24 @@ std::string NoFormat(const std::string& text) {
 }
 
 CLI::Option* AddFiles(CLI::App& command, const char* name, const char* about, Options& options) {
-    return command.add_option(name, options.files, about)->required()->type_name("")->check(Check(NoName));
+    using Names = std::vector<std::string>;
+    const auto take = [&options](const Names& names) {
+        options.files.clear();
+        std::ranges::transform(names, std::back_inserter(options.files), PathOfSystemText);
+    };
+    return command.add_option_function<Names>(name, take, about)
+        ->required()
+        ->type_name("")
+        ->check(Check(NoName));
+}
+
+CLI::Option* AddPath(CLI::App& command, const char* name, const char* about, std::filesystem::path& path) {
+    return command.add_option_function<std::string>(
+        name, [&path](const std::string& text) { path = PathOfSystemText(text); }, about);
 }
 
 CLI::Option* AddOutput(CLI::App& command, const char* about, Options& options) {
-    return command.add_option("-o,--output", options.output, about)->type_name("FILE")->check(Check(NoName));
+    return AddPath(command, "-o,--output", about, options.output)->type_name("FILE")->check(Check(NoName));
 }
 
 void AddKind(CLI::App& command, Options& options) {
@@ -105,9 +121,8 @@ void AddKind(CLI::App& command, Options& options) {
 
 // What every command takes, whether it has a use for it or not.
 void AddSurroundings(CLI::App& command, Options& options) {
-    command
-        .add_option("--program-dir", options.programDirectory,
-                    "Where user.usr and soil.dat are (default: the program's folder)")
+    AddPath(command, "--program-dir", "Where user.usr and soil.dat are (default: the program's folder)",
+            options.programDirectory)
         ->type_name("FOLDER")
         ->check(Check(NoFolder));
     command
@@ -141,8 +156,8 @@ void AddCommand(CLI::App& app, const Command& row, Options& options) {
             ->excludes(json);
     }
     if ((row.accepts & kOutputDirectory) != 0) {
-        command
-            ->add_option("--output-dir", options.outputDirectory, "Write a file for each test to this folder")
+        AddPath(*command, "--output-dir", "Write a file for each test to this folder",
+                options.outputDirectory)
             ->type_name("FOLDER")
             ->check(Check(NoFolder))
             ->excludes(output);
@@ -200,11 +215,13 @@ int Dispatch(const CLI::App& app, const Options& options) {
     return RunBuild(options);
 }
 
-int ReadAndRun(int argc, const char* const* argv) {
+int ReadAndRun(const std::vector<std::string>& arguments) {
     CLI::App app{kAbout, "orvel-cli"};
     app.footer(kFooter);
     app.set_version_flag("--version", std::string("orvel-cli ") + ProgramVersion());
     app.require_subcommand(1);
+    // "/field.cpd" is a file on every system.
+    app.allow_windows_style_options(false);
     Options options;
     options.programDirectory = DefaultProgramDirectory();
     for (const Command& command : kCommands) {
@@ -212,7 +229,8 @@ int ReadAndRun(int argc, const char* const* argv) {
     }
     AddBuild(app, options);
     try {
-        app.parse(argc, argv);
+        // It takes them off the end.
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::Success& request) {
         // --help or --version.
         std::ostringstream text;
@@ -228,9 +246,9 @@ int ReadAndRun(int argc, const char* const* argv) {
 
 } // namespace
 
-int RunCommandLine(int argc, const char* const* argv) noexcept {
+int RunCommandLine(const std::vector<std::string>& arguments) noexcept {
     try {
-        return ReadAndRun(argc, argv);
+        return ReadAndRun(arguments);
     } catch (const CommandError& error) {
         PrintComplaint(error.Subject(), error.what());
         return error.Status();

@@ -10,6 +10,7 @@
 #include "cli/Sink.h"
 #include "cli/TestKinds.h"
 #include "core/CodePage.h"
+#include "core/FileNames.h"
 #include "core/ProgramState.h"
 #include "core/Text.h"
 #include "report/HtmlReport.h"
@@ -72,8 +73,7 @@ void RequireOutputDirectoryForSeveral(const Options& options) {
 
 std::string ResultsHeader(const Options& options, const std::filesystem::path& file) {
     const bool isFirst = &file == &options.files.front();
-    return options.files.size() > 1 ? (isFirst ? "" : "\n") + SystemToUtf8(file.native()) + ":\n"
-                                    : std::string{};
+    return options.files.size() > 1 ? (isFirst ? "" : "\n") + PathUtf8(file) + ":\n" : std::string{};
 }
 
 // One line of several, or a document that stands alone.
@@ -81,7 +81,7 @@ std::string ResultsJsonText(const Options& options, const std::filesystem::path&
     if (options.files.size() == 1) {
         return JsonDocument(results);
     }
-    Json line = {{"file", SystemToUtf8(file.native())}};
+    Json line = {{"file", PathUtf8(file)}};
     line.update(results);
     return JsonLine(line);
 }

@@ -16,8 +16,8 @@ enum ExitStatus : int {
     kRunTimeError = 4,
 };
 
-// A wrong call, or a file that can't be used: ends the work on `subject` (a file or an option; empty for the
-// call as a whole) with one line on standard error.
+// A wrong call, or a file that can't be used: ends the work on `subject` (a file or an option, in UTF-8;
+// empty for the call as a whole) with one line on standard error.
 class CommandError : public std::runtime_error {
 public:
     CommandError(ExitStatus exitStatus, std::string what, const std::string& reason)

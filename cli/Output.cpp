@@ -3,7 +3,7 @@
 #include "cli/Output.h"
 
 #include "cli/ExitStatus.h"
-#include "core/CodePage.h"
+#include "core/FileNames.h"
 #include "core/RunTimeError.h"
 #include "core/Unicode.h"
 
@@ -92,7 +92,7 @@ std::string OnOneLine(std::string_view utf8) {
 void PrintComplaint(std::string_view subject, std::string_view reason) {
     std::string line = "orvel-cli: ";
     if (!subject.empty()) {
-        line.append(OnOneLine(SystemToUtf8(subject))).append(": ");
+        line.append(OnOneLine(subject)).append(": ");
     }
     PrintError(line.append(OnOneLine(reason)).append("\n"));
 }
@@ -101,7 +101,7 @@ void WriteOutput(const std::filesystem::path& path, std::string_view content, Fl
     try {
         ReplaceFile(path, content, flush);
     } catch (const FileError& error) {
-        throw CommandError(kFileFailed, path.native(), error.what());
+        throw CommandError(kFileFailed, PathUtf8(path), error.what());
     }
 }
 
@@ -115,7 +115,7 @@ Inputs::Inputs(std::span<const std::filesystem::path> files) {
 
 void Inputs::RefuseToOverwrite(const std::filesystem::path& output) const {
     if (const auto identity = IdentityOf(output); identity && identities.contains(*identity)) {
-        throw CommandError(kWrongUsage, output.native(), "the output would overwrite the input");
+        throw CommandError(kWrongUsage, PathUtf8(output), "the output would overwrite the input");
     }
 }
 

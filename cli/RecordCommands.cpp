@@ -7,6 +7,7 @@
 #include "cli/Session.h"
 #include "cli/Sink.h"
 #include "cli/TestKinds.h"
+#include "core/FileNames.h"
 #include "core/SafeFile.h"
 
 #include <array>
@@ -69,7 +70,7 @@ int RunBuild(const Options& options) {
     } catch (const CommandError&) {
         throw;
     } catch (const std::runtime_error& error) {
-        throw CommandError(kFileFailed, file.native(), error.what());
+        throw CommandError(kFileFailed, PathUtf8(file), error.what());
     }
     return kDone;
 }

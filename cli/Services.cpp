@@ -80,8 +80,7 @@ DateTime UtcTime(std::int64_t secondsSinceEpoch) {
 
 DateTime LocalTime() {
     const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    ::localtime_r(&now, &local);
+    const std::tm local = *std::localtime(&now); // NOLINT(concurrency-mt-unsafe): one thread
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 

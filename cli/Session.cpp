@@ -4,7 +4,7 @@
 
 #include "centerpivot/CenterPivot.h"
 #include "cli/Output.h"
-#include "core/CodePage.h"
+#include "core/FileNames.h"
 #include "core/Messages.h"
 #include "core/ProgramState.h"
 #include "core/RecordFiles.h"
@@ -53,7 +53,7 @@ void Session::Load(const TestKind& kind, const std::filesystem::path& file) {
 
 void Session::TellMessages(const std::filesystem::path& file) const {
     if (options.files.size() > 1 && !collector.Messages().empty()) {
-        PrintError("orvel-cli: " + SystemToUtf8(file.native()) + ":\n");
+        PrintError("orvel-cli: " + PathUtf8(file) + ":\n");
     }
     for (const Message& message : collector.Messages()) {
         PrintError(MessageBlock(message));

@@ -6,6 +6,7 @@
 #include "cli/Options.h"
 #include "cli/Services.h"
 #include "cli/TestKinds.h"
+#include "core/FileNames.h"
 #include "core/Records.h"
 #include "core/RunTimeError.h"
 
@@ -22,7 +23,7 @@ auto ReadOrComplain(const std::filesystem::path& file, Read read) {
     try {
         return read();
     } catch (const FileError& error) {
-        throw CommandError(kFileFailed, file.native(), error.what());
+        throw CommandError(kFileFailed, PathUtf8(file), error.what());
     }
 }
 

@@ -4,7 +4,7 @@
 
 #include "cli/ExitStatus.h"
 #include "cli/Output.h"
-#include "core/CodePage.h"
+#include "core/FileNames.h"
 
 #include <set>
 
@@ -20,10 +20,9 @@ Sink::Sink(const Options& callOptions, std::string_view extensionOfOutputs)
         std::set<std::filesystem::path> outputs;
         for (const std::filesystem::path& file : options.files) {
             const std::filesystem::path output = OutputFor(file);
-            if (!outputs.insert(output).second) {
-                throw CommandError(kWrongUsage, file.native(),
-                                   "another file would be written to " + SystemToUtf8(output.native()) +
-                                       " too");
+            if (!outputs.insert(PathForComparison(output)).second) {
+                throw CommandError(kWrongUsage, PathUtf8(file),
+                                   "another file would be written to " + PathUtf8(output) + " too");
             }
             inputs.RefuseToOverwrite(output);
         }
@@ -50,7 +49,8 @@ void Sink::Finish() {
 
 std::filesystem::path Sink::OutputFor(const std::filesystem::path& file) const {
     // A name that is nothing but ".cpd" stays whole, so that its output has a name too.
-    return options.outputDirectory / (file.stem().native() + "." + extension);
+    std::filesystem::path name = file.stem();
+    return options.outputDirectory / (name += "." + extension);
 }
 
 } // namespace orvel::cli

@@ -69,7 +69,7 @@ const TestKind& KindOf(const std::filesystem::path& file, const std::string& nam
         return namedKind.empty() ? HasExtension(file, each.extension) : namedKind == each.name;
     });
     if (kind == kKinds.end()) {
-        throw CommandError(kWrongUsage, file.native(),
+        throw CommandError(kWrongUsage, PathUtf8(file),
                            "neither .cpd nor .ssd; --kind says which kind of test it is");
     }
     return *kind;

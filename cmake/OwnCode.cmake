@@ -16,7 +16,12 @@ target_compile_options(orvel_own_code INTERFACE
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
-if(NOT ORVEL_SANITIZE)
+if(WIN32)
+  target_compile_options(orvel_own_code INTERFACE -fstack-protector-strong)
+  # The guard itself is in a library of the compiler.
+  target_link_options(orvel_own_code INTERFACE -fstack-protector-strong
+    -Wl,--dynamicbase,--high-entropy-va,--nxcompat)
+elseif(NOT ORVEL_SANITIZE)
   target_compile_options(orvel_own_code INTERFACE -fstack-protector-strong -fstack-clash-protection
     $<$<STREQUAL:${CMAKE_SYSTEM_PROCESSOR},x86_64>:-fcf-protection>)
   target_link_options(orvel_own_code INTERFACE -Wl,-z,relro,-z,now,-z,noexecstack)

@@ -11,6 +11,9 @@ namespace orvel {
 
 namespace {
 
+static_assert(std::numeric_limits<long double>::digits >= 64,
+              "temporaries and running sums need more digits than a double has");
+
 template <class Float>
 Float Store(long double value) {
     const auto stored = static_cast<Float>(value);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cstddef>
-#include <iconv.h>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -12,7 +12,8 @@ namespace orvel {
 // The system's conversion from a character set to Unicode.
 class CharsetDecoder {
 public:
-    // The set's name as iconv knows it. One that the system lacks takes no byte.
+    // The set's name as iconv knows it ("CP1252", "ISO-8859-1", "GBK"), on every system. One that the system
+    // lacks takes no byte.
     explicit CharsetDecoder(const std::string& charset);
     ~CharsetDecoder();
     CharsetDecoder(const CharsetDecoder&) = delete;
@@ -26,9 +27,8 @@ public:
     [[nodiscard]] bool HasStoppedInside() const { return hasStoppedInside; }
 
 private:
-    [[nodiscard]] bool IsOpen() const;
-
-    iconv_t descriptor;
+    class Conversion;
+    std::unique_ptr<Conversion> conversion; // none when the system lacks the set
     bool hasStoppedInside = false;
 };
 

@@ -6,9 +6,7 @@
 #include "core/Unicode.h"
 
 #include <algorithm>
-#include <clocale>
 #include <cstddef>
-#include <langinfo.h>
 
 namespace orvel {
 
@@ -79,21 +77,6 @@ std::optional<CodePage> CodePage::Named(const std::string& charset) {
         return std::nullopt;
     }
     return page;
-}
-
-CodePage CodePage::OfSystem() {
-    const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr);
-    if (locale == nullptr) {
-        return Windows1252();
-    }
-    const std::string charset = nl_langinfo_l(CODESET, locale);
-    freelocale(locale);
-    std::optional<CodePage> page = Named(charset);
-    if (!page) {
-        return Windows1252();
-    }
-    page->isOfSystem = true;
-    return *page;
 }
 
 char32_t CodePage::ToUnicode(char character) const {

@@ -5,9 +5,6 @@
 #include "core/CodePage.h"
 
 #include <climits>
-#include <cstdlib>
-#include <locale>
-#include <stdexcept>
 
 namespace orvel {
 
@@ -18,22 +15,6 @@ constexpr char32_t kNoBreakSpace = 0x00A0;
 NumberLocale& Current() {
     static NumberLocale locale;
     return locale;
-}
-
-bool GroupsDigits(const std::string& grouping) {
-    return !grouping.empty() && grouping.front() > 0 && grouping.front() != CHAR_MAX;
-}
-
-// The locale that the environment names for numbers. Asking for all of its categories at once would fail
-// when any other one does not exist.
-std::string NameForNumbers() {
-    for (const char* variable : {"LC_ALL", "LC_NUMERIC", "LANG"}) {
-        const char* name = std::getenv(variable); // NOLINT(concurrency-mt-unsafe): one thread
-        if (name != nullptr && *name != '\0') {
-            return name;
-        }
-    }
-    return "C";
 }
 
 char SeparatorInPage(char32_t separator, char otherwise) {
@@ -56,21 +37,14 @@ void UseNumberLocale(const NumberLocale& locale) {
     Current() = locale;
 }
 
-NumberLocale SystemNumberLocale() {
-    std::locale system;
-    try {
-        system = std::locale(NameForNumbers());
-    } catch (const std::runtime_error&) {
-        return InvariantNumberLocale();
-    }
-    // The wide facet gives Unicode characters; the narrow one could not hold a separator of several bytes.
-    const auto& facet = std::use_facet<std::numpunct<wchar_t>>(system);
+NumberLocale NumberLocaleWith(char32_t decimalSeparator, char32_t groupSeparator,
+                              const std::string& grouping) {
+    const bool groupsDigits = !grouping.empty() && grouping.front() > 0 && grouping.front() != CHAR_MAX;
     NumberLocale locale;
-    const auto decimal = static_cast<char32_t>(facet.decimal_point());
-    locale.decimalSeparator = CurrentCodePage().FromUnicode(decimal).value_or('.');
-    if (GroupsDigits(facet.grouping())) {
-        locale.groupSeparator = SeparatorInPage(static_cast<char32_t>(facet.thousands_sep()), ' ');
-        locale.grouping = facet.grouping();
+    locale.decimalSeparator = CurrentCodePage().FromUnicode(decimalSeparator).value_or('.');
+    if (groupsDigits) {
+        locale.groupSeparator = SeparatorInPage(groupSeparator, ' ');
+        locale.grouping = grouping;
     } else if (locale.decimalSeparator == ',') {
         locale.groupSeparator = '\0';
     }

@@ -22,10 +22,14 @@ struct NumberLocale {
 [[nodiscard]] const NumberLocale& CurrentNumberLocale();
 void UseNumberLocale(const NumberLocale& locale);
 
-// The locale that the environment asks for (the invariant one when it asks for one that does not exist).
-// Call it after the code page is set: separators are written in that page. One that the page lacks (U+202F)
-// becomes U+00A0, a decimal separator that it lacks ".". A locale without a group separator has "," unless
-// that is its decimal separator.
+// A locale by its separators as Unicode has them, written in the code page in force: a group separator that
+// the page lacks (U+202F) becomes U+00A0, a decimal separator that it lacks ".". Where nothing is grouped,
+// the group separator is "," unless that is the decimal separator.
+[[nodiscard]] NumberLocale NumberLocaleWith(char32_t decimalSeparator, char32_t groupSeparator,
+                                            const std::string& grouping);
+
+// The user's locale: the one that the environment asks for (the invariant one when it asks for one that does
+// not exist), on Windows that of the user's settings. Call it after the code page is set.
 [[nodiscard]] NumberLocale SystemNumberLocale();
 
 } // namespace orvel

@@ -10,6 +10,7 @@
 #include <charconv>
 #include <climits>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <optional>
 #include <ranges>
@@ -20,7 +21,7 @@ namespace orvel {
 namespace {
 
 // Beyond this every type has overflowed or is zero; it keeps sums of exponents far from a long's bounds.
-constexpr long kExponentLimit = 1'000'000'000;
+constexpr std::int64_t kExponentLimit = 1'000'000'000;
 
 bool IsDigit(char character) {
     return character >= '0' && character <= '9';
@@ -63,11 +64,11 @@ long TakeExponent(std::string_view& text) {
         return 0;
     }
     text = rest;
-    long exponent = 0;
+    std::int64_t exponent = 0;
     for (const char digit : digits) {
         exponent = std::min(exponent * 10 + (digit - '0'), kExponentLimit);
     }
-    return isNegative ? -exponent : exponent;
+    return static_cast<long>(isNegative ? -exponent : exponent);
 }
 
 // The size of the group that stands `index` groups left of the decimal separator; none when no separator may

@@ -3,14 +3,13 @@
 #include "core/ProgramDirectory.h"
 
 #include "core/FileNames.h"
-
-#include <cstdlib>
+#include "core/ProgramStart.h"
 
 namespace orvel {
 
 std::filesystem::path DefaultProgramDirectory() {
-    const char* folder = std::getenv("ORVEL_PROGRAM_DIR"); // NOLINT(concurrency-mt-unsafe): one thread
-    return folder == nullptr || *folder == '\0' ? FolderOfExecutable() : std::filesystem::path(folder);
+    std::filesystem::path folder = PathInEnvironment("ORVEL_PROGRAM_DIR");
+    return folder.empty() ? FolderOfExecutable() : folder;
 }
 
 } // namespace orvel

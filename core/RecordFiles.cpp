@@ -36,12 +36,12 @@ constexpr std::array<DefaultSoil, kSoilRows> kDefaultSoils = {{
 }};
 
 // kept: always a forward slash, whatever separator the platform prefers.
-fs::path SettingsFile(const fs::path& programDirectory) {
-    return programDirectory.native() + "/user.usr";
+fs::path SettingsFile(fs::path programDirectory) {
+    return programDirectory += "/user.usr";
 }
 
-fs::path SoilFile(const fs::path& programDirectory) {
-    return programDirectory.native() + "/soil.dat";
+fs::path SoilFile(fs::path programDirectory) {
+    return programDirectory += "/soil.dat";
 }
 
 bool IsThere(const fs::path& path) {

@@ -19,7 +19,9 @@ ErrorNumber NumberOfSystemError(int systemError) {
     case EPERM:
         return ErrorNumber::PermissionDenied;
     case ENOSPC:
+#ifdef EDQUOT // Windows counts a full quota as a full disk
     case EDQUOT:
+#endif
     case EFBIG:
         return ErrorNumber::DiskFull;
     case EIO:

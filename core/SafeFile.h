@@ -29,14 +29,14 @@ enum class FileKind {
 // Whether the new content must have reached the disk before the old one goes.
 enum class Flush { ToDisk, Lazy };
 
-// Makes `content` the file's content, whole or not at all: it goes to a temporary file (core/TemporaryFile)
-// in the same folder, which takes the old file's permissions and replaces it; a failure on the way leaves the
-// old file as it was and removes the temporary. What a killed program left is removed by the next call. A
-// symbolic link stays, its target is replaced. Where the folder lets no file be created or replaced but the
-// file may be written, it is overwritten in place, and the old bytes are put back when that fails; so is a
-// file without a name (one that was deleted, behind "/dev/stdout"). A device or a pipe, "/dev/stdout" on one
-// included, is written straight; a folder, a socket, a file without write permission and a name of temporary
-// files are errors.
+// Makes `content` the file's content, whole or not at all: it goes to a temporary file (posix/TemporaryFile,
+// windows/TemporaryFile) in the same folder, which takes the old file's permissions and replaces it; a
+// failure on the way leaves the old file as it was and removes the temporary. What a killed program left is
+// removed by the next call. A symbolic link stays, its target is replaced. Where the folder lets no file be
+// created or replaced but the file may be written, it is overwritten in place, and the old bytes are put back
+// when that fails; so is a file without a name (one that was deleted, behind "/dev/stdout"). A device or a
+// pipe, "/dev/stdout" on one included, is written straight; a folder, a socket, a file without write
+// permission and a name of temporary files are errors.
 void ReplaceFile(const std::filesystem::path& path, std::string_view content, Flush flush);
 
 // The same for a file of the program's own that nobody but the user is to read, whatever was there: always

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "entry/RecoveryFile.h"
 
+#include "core/FileNames.h"
 #include "core/FilePermissions.h"
 #include "core/ProgramState.h"
 #include "core/RunTimeError.h"
@@ -13,6 +14,7 @@
 #include <iomanip>
 #include <sstream>
 #include <system_error>
+#include <type_traits>
 
 namespace orvel {
 
@@ -25,18 +27,12 @@ constexpr const char* kExtension = ".recovery";
 constexpr std::size_t kMostBytes = std::size_t{64} << 20;
 constexpr std::size_t kMostOfName = 255;
 
-// The same file by whatever way it was opened.
-fs::path FullPath(const fs::path& path) {
-    std::error_code error;
-    const fs::path full = fs::weakly_canonical(fs::absolute(path, error), error);
-    return error ? path : full;
-}
-
 // FNV-1a, 64 bits (Fowler, Noll and Vo, 1991): the same in every build.
 std::string NumberOf(const fs::path& path) {
+    using Unit = std::make_unsigned_t<fs::path::value_type>;
     std::uint64_t number = 0xCBF29CE484222325;
-    for (const char each : path.native()) {
-        number = (number ^ static_cast<unsigned char>(each)) * 0x100000001B3;
+    for (const auto each : path.native()) {
+        number = (number ^ static_cast<Unit>(each)) * 0x100000001B3;
     }
     std::ostringstream text;
     text << std::hex << std::setw(16) << std::setfill('0') << number;
@@ -57,8 +53,8 @@ fs::path InUserFolder(const fs::path& testFile) {
     if (folder.empty()) {
         return {};
     }
-    const std::string name = testFile.filename().native().substr(0, kMostOfTestName);
-    return folder / "recovery" / (name + "-" + NumberOf(testFile) + kExtension);
+    fs::path name = testFile.filename().native().substr(0, kMostOfTestName);
+    return folder / "recovery" / (name += "-" + NumberOf(testFile) + kExtension);
 }
 
 fs::path Kept(const fs::path& place, int number) {

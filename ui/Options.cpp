@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/Options.h"
 
+#include "core/FileNames.h"
 #include "core/ProgramDirectory.h"
 #include "core/Version.h"
 
@@ -22,22 +23,31 @@ fs::path Absolute(const fs::path& path) {
 
 } // namespace
 
-std::optional<Options> ReadOptions(int argc, const char* const* argv, int& status) {
+std::optional<Options> ReadOptions(const std::vector<std::string>& arguments, int& status) {
     constexpr int kWrongCall = 2;
     Options options{.file = {}, .programDirectory = DefaultProgramDirectory()};
     std::string file;
     CLI::App app{"Evaluates field irrigation systems from catch-can tests.", "orvel"};
+    // "/field.cpd" is a file on every system.
+    app.allow_windows_style_options(false);
     app.set_version_flag("--version", std::string("orvel ") + ProgramVersion());
     app.add_option("FILE", file, "A test file to open, .cpd or .ssd")
         ->type_name("")
         ->check(CLI::Validator(
             [](const std::string& name) { return name.empty() ? "must not be empty" : ""; }, ""));
-    app.add_option("--program-dir", options.programDirectory,
-                   "Where user.usr, soil.dat and help.rtf are (default: the program's folder)")
+    app.add_option_function<std::string>(
+           "--program-dir",
+           [&options](const std::string& folder) { options.programDirectory = PathOfSystemText(folder); },
+           "Where user.usr, soil.dat and help.rtf are (default: the program's folder)")
         ->type_name("FOLDER")
-        ->check(CLI::Validator(CLI::ExistingDirectory).description(""));
+        ->check(CLI::Validator(
+            [](const std::string& name) {
+                return FolderExists(PathOfSystemText(name)) ? "" : "Directory does not exist: " + name;
+            },
+            ""));
     try {
-        app.parse(argc, argv);
+        // It takes them off the end.
+        app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
     } catch (const CLI::Success& request) {
         status = app.exit(request);
         return std::nullopt;
@@ -50,7 +60,7 @@ std::optional<Options> ReadOptions(int argc, const char* const* argv, int& statu
     // directory.
     options.programDirectory = Absolute(options.programDirectory);
     if (!file.empty()) {
-        options.file = Absolute(file);
+        options.file = Absolute(PathOfSystemText(file));
     }
     return options;
 }

@@ -4,6 +4,8 @@
 
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace orvel::ui {
 
@@ -13,8 +15,9 @@ struct Options {
     std::filesystem::path programDirectory;
 };
 
-// Reads the call. Nothing to start when it only asked for the help or the version, which were printed, or was
-// wrong, which was told on standard error; `status` is then the program's.
-[[nodiscard]] std::optional<Options> ReadOptions(int argc, const char* const* argv, int& status);
+// Reads the call (CallArguments in core/ProgramStart). Nothing to start when it only asked for the help or
+// the version, which were printed, or was wrong, which was told on standard error; `status` is then the
+// program's.
+[[nodiscard]] std::optional<Options> ReadOptions(const std::vector<std::string>& arguments, int& status);
 
 } // namespace orvel::ui

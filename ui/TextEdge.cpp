@@ -17,11 +17,19 @@ std::string FromQt(const QString& text) {
 }
 
 QString PathToQt(const std::filesystem::path& path) {
+#ifdef Q_OS_WIN
+    return QString::fromStdWString(path.native());
+#else
     return QFile::decodeName(path.c_str());
+#endif
 }
 
 std::filesystem::path PathFromQt(const QString& path) {
+#ifdef Q_OS_WIN
+    return path.toStdWString();
+#else
     return QFile::encodeName(path).toStdString();
+#endif
 }
 
 } // namespace orvel::ui

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "core/CodePage.h"
 #include "core/NumberLocale.h"
+#include "core/ProgramStart.h"
 #include "core/ProgramState.h"
 #include "ui/Desktop.h"
 #include "ui/Options.h"
 
 #include <QApplication>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -24,10 +24,9 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*context*/, co
 } // namespace
 
 int main(int argc, char** argv) {
-    // A file that grows over its limit is then a failed write and not the program's end.
-    (void)std::signal(SIGXFSZ, SIG_IGN);
+    orvel::SurviveFileSizeLimit();
     int status = 0;
-    const auto options = orvel::ui::ReadOptions(argc, argv, status);
+    const auto options = orvel::ui::ReadOptions(orvel::CallArguments(argc, argv), status);
     if (!options) {
         return status;
     }

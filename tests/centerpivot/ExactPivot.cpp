@@ -20,19 +20,19 @@ void Depths(const CenterPivotTest& test, ExactResults& results) {
 }
 
 struct ExactCup {
-    mpq_class depth;
-    mpq_class distance;
+    Rational depth;
+    Rational distance;
 };
 
-mpq_class HeermannHein(const std::vector<ExactCup>& cups) {
-    mpq_class weights;
-    mpq_class products;
+Rational HeermannHein(const std::vector<ExactCup>& cups) {
+    Rational weights;
+    Rational products;
     for (const ExactCup& cup : cups) {
         weights += cup.distance;
         products += cup.depth * cup.distance;
     }
-    const mpq_class mean = Quotient(products, weights);
-    mpq_class deviations;
+    const Rational mean = Quotient(products, weights);
+    Rational deviations;
     for (const ExactCup& cup : cups) {
         deviations += abs(cup.depth - mean) * cup.distance;
     }
@@ -41,18 +41,18 @@ mpq_class HeermannHein(const std::vector<ExactCup>& cups) {
 
 void Uniformity(ExactResults& results) {
     std::vector<ExactCup> cups;
-    std::vector<mpq_class> depths;
+    std::vector<Rational> depths;
     results.maximumDepth = results.rows[1].depth;
-    mpq_class sum;
+    Rational sum;
     for (std::size_t i = 1; i <= static_cast<std::size_t>(results.cupCount); ++i) {
         const ExactRow& row = results.rows.at(i);
-        cups.push_back({mpq_class(row.depth), mpq_class(row.footage)});
+        cups.push_back({Rational(row.depth), Rational(row.footage)});
         depths.emplace_back(row.depth);
         sum += depths.back();
         results.maximumDepth = std::max(results.maximumDepth, row.depth);
     }
     results.averageDepth = RoundToSingle(Quotient(sum, results.cupCount));
-    const mpq_class average(results.averageDepth);
+    const Rational average(results.averageDepth);
     results.christiansenCU = RoundToSingle(ExactChristiansen(depths, average));
     results.lowQuarterDU = RoundToSingle(ExactLowQuarter(depths, average));
     results.heermannHeinCU = RoundToSingle(HeermannHein(cups));
@@ -63,38 +63,38 @@ void Acres(const CenterPivotTest& test, ExactResults& results) {
         Entry(test.EndGunRadius).empty()) {
         return;
     }
-    const mpq_class machine(RoundToSingle(Single(test.DistanceToTower) + Single(test.LengthOverhang)));
-    const mpq_class radius(RoundToSingle(machine + Single(test.EndGunRadius)));
-    const mpq_class square(RoundToDouble(radius * radius));
+    const Rational machine(RoundToSingle(Single(test.DistanceToTower) + Single(test.LengthOverhang)));
+    const Rational radius(RoundToSingle(machine + Single(test.EndGunRadius)));
+    const Rational square(RoundToDouble(radius * radius));
     results.irrigatedAcres = RoundToSingle(square * ExactPi() / 43560);
 }
 
 float FlowRate(const CenterPivotTest& test, const ExactResults& results) {
-    const mpq_class seconds(RoundToSingle(Single(test.TravelSpeedSeconds) / 3600));
-    const mpq_class hours = Single(test.TravelSpeedMinutes) / 60 + seconds;
-    const mpq_class speed(RoundToDouble(Quotient(Single(test.TravelSpeedFeet), hours)));
-    const mpq_class timer = Double(test.PercentTimer);
-    const mpq_class fullSpeed(RoundToSingle(Quotient(100, timer) * speed));
-    const mpq_class tower = Double(test.DistanceToTower);
-    const mpq_class circumference(RoundToSingle((tower + tower) * ExactPi()));
-    const mpq_class fullSpeedHours = Quotient(circumference, fullSpeed);
-    const mpq_class revolution = Quotient(fullSpeedHours, mpq_class(RoundToSingle(timer / 100)));
-    mpq_class acres;
+    const Rational seconds(RoundToSingle(Single(test.TravelSpeedSeconds) / 3600));
+    const Rational hours = Single(test.TravelSpeedMinutes) / 60 + seconds;
+    const Rational speed(RoundToDouble(Quotient(Single(test.TravelSpeedFeet), hours)));
+    const Rational timer = Double(test.PercentTimer);
+    const Rational fullSpeed(RoundToSingle(Quotient(100, timer) * speed));
+    const Rational tower = Double(test.DistanceToTower);
+    const Rational circumference(RoundToSingle((tower + tower) * ExactPi()));
+    const Rational fullSpeedHours = Quotient(circumference, fullSpeed);
+    const Rational revolution = Quotient(fullSpeedHours, Rational(RoundToSingle(timer / 100)));
+    Rational acres;
     if (!Entry(test.TotalAcres).empty()) {
         acres = Single(test.TotalAcres);
     }
     if (results.irrigatedAcres > 0) {
         acres = results.irrigatedAcres;
     }
-    const mpq_class depth(results.averageDepth);
+    const Rational depth(results.averageDepth);
     if (acres == 0 || depth == 0 || revolution == 0) {
         return 0;
     }
     return RoundToSingle(acres * 453 * depth / revolution);
 }
 
-mpq_class EnteredFlow(const CenterPivotTest& test) {
-    mpq_class flow;
+Rational EnteredFlow(const CenterPivotTest& test) {
+    Rational flow;
     if (!Entry(test.EstFlowRate).empty()) {
         flow = Single(test.EstFlowRate);
     }
@@ -105,8 +105,8 @@ mpq_class EnteredFlow(const CenterPivotTest& test) {
 }
 
 float Efficiency(const CenterPivotTest& test, const ExactResults& results) {
-    const mpq_class flow = EnteredFlow(test);
-    const mpq_class calculated(results.calculatedFlowRate);
+    const Rational flow = EnteredFlow(test);
+    const Rational calculated(results.calculatedFlowRate);
     return calculated != 0 && flow != 0 ? RoundToSingle(calculated / flow) : 0.0F;
 }
 
@@ -140,13 +140,13 @@ ExactResults EvaluateExactly(const CenterPivotTest& test, const ExactResults& be
 }
 
 std::optional<float> ExactApplicationRate(const CenterPivotTest& test) {
-    const mpq_class flow = EnteredFlow(test);
+    const Rational flow = EnteredFlow(test);
     if (flow == 0 || Entry(test.DistanceToTower).empty() || Entry(test.LengthOverhang).empty() ||
         Entry(test.RadLastSprinkler).empty()) {
         return std::nullopt;
     }
-    const mpq_class length(RoundToSingle(Single(test.DistanceToTower) + Single(test.LengthOverhang)));
-    return RoundToSingle(Quotient(flow * mpq_class(122.5), length * Single(test.RadLastSprinkler)));
+    const Rational length(RoundToSingle(Single(test.DistanceToTower) + Single(test.LengthOverhang)));
+    return RoundToSingle(Quotient(flow * Rational(122.5), length * Single(test.RadLastSprinkler)));
 }
 
 } // namespace orvel::testing

@@ -54,19 +54,6 @@ TEST_F(Commands, ReportWithoutSettingsLeavesTheTesterOutAndCreatesNothing) {
     EXPECT_TRUE(folder.Names().empty());
 }
 
-TEST_F(Commands, ReportFollowsTheLocaleOfItsEnvironment) {
-    const RunResult compiled = RunProgram({"--version"});
-    ASSERT_EQ(compiled.status, 0);
-    const std::string localedef = "localedef -i de_DE -f UTF-8 " + (folder / "de_DE.UTF-8").native();
-    ASSERT_EQ(std::system(localedef.c_str()), 0);
-    const RunResult run =
-        RunProgram(Call{.arguments = {"report", kPivot, "--now", kNow},
-                        .environment = {{"LC_ALL", "de_DE.UTF-8"}, {"LOCPATH", folder.Path()}}});
-    EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.out.find("System Length 1.420\r\n"), std::string::npos);
-    EXPECT_NE(run.out.find("Calculated Flow Rate:           871,41 GPM\r\n"), std::string::npos);
-}
-
 TEST_F(Commands, ReportTakesTheTimeFromSourceDateEpoch) {
     const RunResult run = RunProgram(
         Call{.arguments = {"report", kPivot}, .environment = {{"SOURCE_DATE_EPOCH", "951827696"}}});

@@ -3,18 +3,23 @@
 #include "cli/Services.h"
 
 #include "cli/ExitStatus.h"
+#include "tests/support/Environment.h"
 #include "tests/support/LogicTest.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace orvel::cli {
 
 namespace {
 
+// An empty one counts as unset.
+void SetEpoch(const char* epoch) {
+    testing::SetInEnvironment("SOURCE_DATE_EPOCH", epoch);
+}
+
 class CommandLineServices : public orvel::testing::LogicTest {
 protected:
-    ~CommandLineServices() override { ::unsetenv("SOURCE_DATE_EPOCH"); }
+    ~CommandLineServices() override { SetEpoch(""); }
 };
 
 TEST_F(CommandLineServices, MessageBlockHasTitleTextAndAnEmptyLine) {
@@ -63,12 +68,12 @@ TEST_F(CommandLineServices, DateAndTimeAreReadInOneFormOnly) {
 }
 
 TEST_F(CommandLineServices, ClockTakesTheGivenTimeFirst) {
-    ::setenv("SOURCE_DATE_EPOCH", "0", 1);
+    SetEpoch("0");
     EXPECT_EQ(CommandClock(DateTime{2001, 2, 3, 4, 5, 6}).Now().year, 2001);
 }
 
 TEST_F(CommandLineServices, ClockTakesSourceDateEpochInUtc) {
-    ::setenv("SOURCE_DATE_EPOCH", "951827696", 1);
+    SetEpoch("951827696");
     const DateTime moment = CommandClock(std::nullopt).Now();
     EXPECT_EQ(moment.year, 2000);
     EXPECT_EQ(moment.month, 2);
@@ -80,13 +85,13 @@ TEST_F(CommandLineServices, ClockTakesSourceDateEpochInUtc) {
 
 TEST_F(CommandLineServices, ClockRefusesAnEpochThatIsNoNumberOfSeconds) {
     for (const char* epoch : {"soon", " ", "12x", "-1", "253402300800", "99999999999999999999"}) {
-        ::setenv("SOURCE_DATE_EPOCH", epoch, 1);
+        SetEpoch(epoch);
         EXPECT_THROW((void)CommandClock(std::nullopt).Now(), CommandError) << epoch;
     }
 }
 
 TEST_F(CommandLineServices, ClockTakesAnEmptyEpochForNone) {
-    ::setenv("SOURCE_DATE_EPOCH", "", 1);
+    SetEpoch("");
     EXPECT_GE(CommandClock(std::nullopt).Now().year, 2026);
 }
 

@@ -33,7 +33,7 @@ protected:
         std::filesystem::create_directory(folder / "out");
     }
 
-    [[nodiscard]] std::string Out(const std::string& name) const { return folder.Path() / "out" / name; }
+    [[nodiscard]] std::string Out(const std::string& name) const { return folder / ("out/" + name); }
 
     TemporaryFolder folder;
 };
@@ -50,9 +50,9 @@ TEST_F(SeveralFiles, ResultsAsJsonAreOneObjectALineInTheOrderGiven) {
     }
     ASSERT_EQ(objects.size(), 3U);
     EXPECT_EQ(objects[0].begin().key(), "file");
-    EXPECT_EQ(objects[0]["file"], (folder / "noacres.cpd").native());
-    EXPECT_EQ(objects[1]["file"], (folder / "toomany.cpd").native());
-    EXPECT_EQ(objects[2]["file"], (folder / "good.cpd").native());
+    EXPECT_EQ(objects[0]["file"], (folder / "noacres.cpd").string());
+    EXPECT_EQ(objects[1]["file"], (folder / "toomany.cpd").string());
+    EXPECT_EQ(objects[2]["file"], (folder / "good.cpd").string());
     EXPECT_EQ(objects[2]["CupCount"], 56);
 }
 
@@ -73,14 +73,14 @@ TEST_F(SeveralFiles, NothingOfOneFileIsLeftOverInTheNext) {
 TEST_F(SeveralFiles, ResultsAsTextAreABlockEach) {
     const RunResult run = RunProgram({"results", folder / "good.cpd", kPivot});
     const std::string block = RunProgram({"results", kPivot}).out;
-    EXPECT_EQ(run.out, (folder / "good.cpd").native() + ":\n" + block + "\n" + kPivot + ":\n" + block);
+    EXPECT_EQ(run.out, (folder / "good.cpd").string() + ":\n" + block + "\n" + kPivot + ":\n" + block);
 }
 
 TEST_F(SeveralFiles, MessagesStandBehindTheNameOfTheirFile) {
     const RunResult run =
         RunProgram({"report", "--output-dir", Out(""), folder / "good.cpd", folder / "toomany.cpd"});
     EXPECT_EQ(run.status, 4);
-    EXPECT_EQ(run.err, "orvel-cli: " + (folder / "toomany.cpd").native() +
+    EXPECT_EQ(run.err, "orvel-cli: " + (folder / "toomany.cpd").string() +
                            ":\n[Error]\nSorry, an error occurred generating report...\nError Number: 9\n"
                            "Error Description: Subscript out of range\nError Source: ORVEL\n\n");
 }
@@ -89,7 +89,7 @@ TEST_F(SeveralFiles, TheHighestStatusCountsAndTheOthersAreStillDone) {
     const RunResult run = RunProgram({"report", "--output-dir", Out(""), folder / "errors.cpd",
                                       folder / "missing.cpd", folder / "good.cpd"});
     EXPECT_EQ(run.status, 3);
-    EXPECT_NE(run.err.find("orvel-cli: " + (folder / "missing.cpd").native() +
+    EXPECT_NE(run.err.find("orvel-cli: " + (folder / "missing.cpd").string() +
                            ": cannot open: No such file or directory\n"),
               std::string::npos);
     EXPECT_TRUE(std::filesystem::exists(Out("good.txt")));
@@ -119,9 +119,10 @@ TEST_F(SeveralFiles, ExportsAreNamedAfterTheirTests) {
 }
 
 TEST_F(SeveralFiles, FilesThatWouldShareAnOutputAreAWrongCallAndNothingIsWritten) {
-    std::filesystem::copy_file(kPivot, folder / "good.CPD");
-    const RunResult run =
-        RunProgram({"report", "--output-dir", Out(""), kPivot, folder / "good.cpd", folder / "good.CPD"});
+    std::filesystem::create_directory(folder / "other");
+    std::filesystem::copy_file(kPivot, folder / "other/good.CPD");
+    const RunResult run = RunProgram(
+        {"report", "--output-dir", Out(""), kPivot, folder / "good.cpd", folder / "other/good.CPD"});
     EXPECT_EQ(run.status, 2);
     EXPECT_TRUE(std::filesystem::is_empty(Out("")));
 }

@@ -22,17 +22,28 @@ TEST_F(FileNamesTest, KnowsWhichFilesExist) {
     const TemporaryFolder folder;
     PutContents(folder / "Test one.cpd", "");
     PutContents(folder / ".hidden", "x");
-    fs::create_symlink("Test one.cpd", folder / "link");
-    fs::create_symlink("nothing", folder / "dangling");
-    fs::create_symlink("loop", folder / "loop");
-    fs::create_directory_symlink(".", folder / "folder link");
-    for (const char* name : {"Test one.cpd", ".hidden", "link"}) {
+    for (const char* name : {"Test one.cpd", ".hidden"}) {
         EXPECT_TRUE(FileExists(folder / name)) << name;
+        EXPECT_FALSE(FolderExists(folder / name)) << name;
     }
-    for (const char* name :
-         {"test one.cpd", "nothing", "dangling", "loop", "folder link", "none/x", ".hidden/x"}) {
+    for (const char* name : {"nothing", "none/x", ".hidden/x"}) {
         EXPECT_FALSE(FileExists(folder / name)) << name;
+        EXPECT_FALSE(FolderExists(folder / name)) << name;
     }
+    EXPECT_TRUE(FolderExists(folder.Path()));
+    EXPECT_FALSE(FolderExists(""));
+}
+
+TEST_F(FileNamesTest, FindsAFileInAnotherCase) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), "");
+    EXPECT_EQ(FindFile(folder / "none", "help.rtf"), "");
+    EXPECT_EQ(FindFile("", "help.rtf"), "");
+    PutContents(folder / "help.rtf.txt", "");
+    PutContents(folder / "xhelp.rtf", "");
+    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), "");
+    PutContents(folder / "HELP.Rtf", "found");
+    EXPECT_EQ(testing::Contents(FindFile(folder.Path(), "help.rtf")), "found");
 }
 
 TEST_F(FileNamesTest, CountsNeitherAFolderNorAnEmptyPathAsAFile) {
@@ -49,18 +60,6 @@ TEST_F(FileNamesTest, TakesWildcardsLiterally) {
     for (const char* name : {"*", "*.cpd", "?.cpd", "[a].cpd"}) {
         EXPECT_FALSE(FileExists(folder / name)) << name;
     }
-    PutContents(folder / "*.cpd", "x");
-    EXPECT_TRUE(FileExists(folder / "*.cpd"));
-    EXPECT_FALSE(FileExists(folder / "?.cpd"));
-}
-
-TEST_F(FileNamesTest, SeesNoFileInAFolderThatMayNotBeEntered) {
-    const TemporaryFolder folder;
-    PutContents(folder / "a.cpd", "x");
-    const testing::AsOrdinaryUser user(folder.Path());
-    EXPECT_TRUE(FileExists(folder / "a.cpd"));
-    fs::permissions(folder.Path(), fs::perms::none);
-    EXPECT_FALSE(FileExists(folder / "a.cpd"));
 }
 
 TEST_F(FileNamesTest, NamesAFileWithoutItsFolder) {
@@ -69,12 +68,11 @@ TEST_F(FileNamesTest, NamesAFileWithoutItsFolder) {
         const char* name;
     };
 
-    constexpr std::array<Case, 8> kCases = {{
+    constexpr std::array<Case, 7> kCases = {{
         {"/home/tester/North field.cpd", "North field.cpd"},
         {"North field.cpd", "North field.cpd"},
         {"../a/b.c.ssd", "b.c.ssd"},
         {"/a/.hidden", ".hidden"},
-        {R"(C:\tests\a.cpd)", R"(C:\tests\a.cpd)"},
         {"/a/ b ", " b "},
         {"/a/", ""},
         {"", ""},
@@ -85,19 +83,22 @@ TEST_F(FileNamesTest, NamesAFileWithoutItsFolder) {
 }
 
 TEST_F(FileNamesTest, ShowsNamesInTheCodePage) {
-    EXPECT_EQ(FileNameText("/h\xC3\xB6"
-                           "fe/Pr\xC3\xBC"
-                           "fung \xE2\x82\xAC.cpd"),
+    const auto name = [](const char* path) { return FileNameText(PathOfSystemText(path)); };
+    const auto whole = [](const char* path) { return PathText(PathOfSystemText(path)); };
+    EXPECT_EQ(name("/h\xC3\xB6"
+                   "fe/Pr\xC3\xBC"
+                   "fung \xE2\x82\xAC.cpd"),
               "Pr\xFC"
               "fung \x80.cpd");
-    EXPECT_EQ(PathText("/h\xC3\xB6"
-                       "fe/a.cpd"),
+    EXPECT_EQ(whole("/h\xC3\xB6"
+                    "fe/a.cpd"),
               "/h\xF6"
               "fe/a.cpd");
     // What the page lacks.
-    EXPECT_EQ(FileNameText("/a/\xE6\xB0\xB4.cpd"), "?.cpd");
-    EXPECT_EQ(PathText("/\xE6\xB0\xB4/a.cpd"), "/?/a.cpd");
-    EXPECT_EQ(PathText(""), "");
+    EXPECT_EQ(name("/a/\xE6\xB0\xB4.cpd"), "?.cpd");
+    EXPECT_EQ(whole("/\xE6\xB0\xB4/a.cpd"), "/?/a.cpd");
+    EXPECT_EQ(whole(""), "");
+    EXPECT_EQ(PathUtf8(PathOfSystemText("/\xE6\xB0\xB4/a.cpd")), "/\xE6\xB0\xB4/a.cpd");
 }
 
 TEST_F(FileNamesTest, MatchesExtensionsInAnyCase) {
@@ -109,24 +110,6 @@ TEST_F(FileNamesTest, MatchesExtensionsInAnyCase) {
                              "/x.cpd/a", "/x.cpd/", "cpd"}) {
         EXPECT_FALSE(HasExtension(path, "cpd")) << path;
     }
-}
-
-TEST_F(FileNamesTest, FindsAFileWhateverTheCaseOfItsLetters) {
-    const testing::TemporaryFolder folder;
-    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), "");
-    EXPECT_EQ(FindFile(folder / "none", "help.rtf"), "");
-    EXPECT_EQ(FindFile("", "help.rtf"), "");
-
-    std::filesystem::create_directory(folder / "HELP.RTF");
-    testing::PutContents(folder / "help.rtf.txt", "");
-    testing::PutContents(folder / "xhelp.rtf", "");
-    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), "") << "a folder is no file";
-
-    testing::PutContents(folder / "hElp.rtf", "");
-    testing::PutContents(folder / "Help.RTF", "");
-    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), folder / "Help.RTF") << "the first by name";
-    testing::PutContents(folder / "help.rtf", "");
-    EXPECT_EQ(FindFile(folder.Path(), "help.rtf"), folder / "help.rtf") << "the very name";
 }
 
 } // namespace

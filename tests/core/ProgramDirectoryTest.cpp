@@ -3,8 +3,8 @@
 #include "core/ProgramDirectory.h"
 
 #include "core/FileNames.h"
+#include "tests/support/Environment.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace orvel {
@@ -13,22 +13,19 @@ namespace {
 
 class ProgramDirectory : public ::testing::Test {
 protected:
-    ProgramDirectory() { ::unsetenv("ORVEL_PROGRAM_DIR"); }
-    ~ProgramDirectory() override { ::unsetenv("ORVEL_PROGRAM_DIR"); }
+    ProgramDirectory() { SetVariable(""); }
+    ~ProgramDirectory() override { SetVariable(""); }
+
+    static void SetVariable(const char* folder) { testing::SetInEnvironment("ORVEL_PROGRAM_DIR", folder); }
 };
 
-TEST_F(ProgramDirectory, IsTheFolderOfTheExecutable) {
+TEST_F(ProgramDirectory, IsTheFolderOfTheExecutableWhereTheVariableIsEmpty) {
     EXPECT_EQ(DefaultProgramDirectory(), FolderOfExecutable());
 }
 
 TEST_F(ProgramDirectory, IsTheFolderThatTheVariableNamesWhetherItIsThereOrNot) {
-    ::setenv("ORVEL_PROGRAM_DIR", "/home/ida/no such folder", 1);
+    SetVariable("/home/ida/no such folder");
     EXPECT_EQ(DefaultProgramDirectory(), "/home/ida/no such folder");
-}
-
-TEST_F(ProgramDirectory, AnEmptyVariableNamesNone) {
-    ::setenv("ORVEL_PROGRAM_DIR", "", 1);
-    EXPECT_EQ(DefaultProgramDirectory(), FolderOfExecutable());
 }
 
 } // namespace

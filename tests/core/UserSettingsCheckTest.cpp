@@ -55,20 +55,21 @@ TEST_F(UserSettingsCheck, NamesEachBlankField) {
 TEST_F(UserSettingsCheck, TheDefaultFolderIsTheDirectoryIfThereIsOne) {
     const testing::TemporaryFolder folder;
     EXPECT_EQ(DefaultFolder(), "");
-    Program().userSettings.DefaultDirectory = " " + folder.Path().native();
+    Program().userSettings.DefaultDirectory = " " + folder.Path().string();
     EXPECT_EQ(DefaultFolder(), folder.Path());
-    EXPECT_EQ(Program().userSettings.DefaultDirectory.Whole().front(), '/') << "trimmed in the record";
-    Program().userSettings.DefaultDirectory = (folder / "none").native();
+    EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), folder.Path().string())
+        << "trimmed in the record";
+    Program().userSettings.DefaultDirectory = (folder / "none").string();
     EXPECT_EQ(DefaultFolder(), "");
     testing::PutContents(folder / "file", "");
-    Program().userSettings.DefaultDirectory = (folder / "file").native();
+    Program().userSettings.DefaultDirectory = (folder / "file").string();
     EXPECT_EQ(DefaultFolder(), "");
 }
 
 TEST_F(UserSettingsCheck, TheDefaultFolderMayHaveAnyNameOfTheCodePage) {
     const testing::TemporaryFolder folder;
     std::filesystem::create_directory(folder / "\u00E9");
-    Program().userSettings.DefaultDirectory = folder.Path().native() + "/\xE9";
+    Program().userSettings.DefaultDirectory = folder.Path().string() + "/\xE9";
     EXPECT_EQ(DefaultFolder(), folder / "\u00E9");
 }
 

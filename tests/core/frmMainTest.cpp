@@ -29,7 +29,7 @@ protected:
     FrmMain() {
         Program().programDirectory = folder.Path();
         UserSettings settings = testing::CompleteUserSettings();
-        settings.DefaultDirectory = folder.Path().native();
+        settings.DefaultDirectory = folder.Path().string();
         SaveUserSettings(settings);
     }
 
@@ -49,7 +49,7 @@ protected:
         return file;
     }
 
-    [[nodiscard]] std::string In(const std::string& line) const { return line + folder.Path().native(); }
+    [[nodiscard]] std::string In(const std::string& line) const { return line + folder.Path().string(); }
 
     TemporaryFolder folder;
     frmMain window{*this, surroundings};
@@ -65,7 +65,7 @@ TEST_F(FrmMain, LoadingReadsTheSettingsBeforeAnythingIsShown) {
     Program().testKind = kSolidSet;
     window.Form_Load();
     EXPECT_EQ(Program().testKind, kCenterPivot);
-    EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), folder.Path().native().substr(0, 50));
+    EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), folder.Path().string().substr(0, 50));
     EXPECT_EQ(Program().soilIntakeTable[7].SoilName.Trimmed(), "Clay");
     EXPECT_EQ(Contents(folder / "soil.dat").size(), 196U);
     EXPECT_EQ(Said(),
@@ -81,7 +81,7 @@ TEST_F(FrmMain, LoadingReadsTheSettingsBeforeAnythingIsShown) {
 TEST_F(FrmMain, SettingsThatCannotBeKeptAreToldWithTheirPlaceAndNotTrapped) {
     std::filesystem::remove(folder / "user.usr");
     std::filesystem::create_directory(folder / "user.usr");
-    const std::string box = "box [ORVEL] The program can't keep its settings in " + folder.Path().native() +
+    const std::string box = "box [ORVEL] The program can't keep its settings in " + folder.Path().string() +
                             ": cannot write to what is no file: Is a directory.|"
                             "Start it with --program-dir and a folder that it may write to. (Ok)";
     ExpectRunTimeError(ErrorNumber::PathFileAccessError, [this] { window.Form_Load(); });
@@ -311,14 +311,14 @@ TEST_F(FrmMain, ASaveAsThatIsCancelledOrFailsLeavesPathRecordAndStatus) {
 
 TEST_F(FrmMain, DialogsOpenInTheDefaultDirectoryWhileItExists) {
     Load();
-    Program().userSettings.DefaultDirectory = "  " + (folder / "gone").native();
+    Program().userSettings.DefaultDirectory = "  " + (folder / "gone").string();
     surroundings.paths = {{}, {}};
     window.mnuFileOpen_Click();
     EXPECT_EQ(Said(), (Lines{"open [Open Center Pivot Data] All Files (*.cpd)|*.cpd; cpd; 0x804; "}));
     std::filesystem::create_directory(folder / "gone");
     window.mnuFileOpen_Click();
-    EXPECT_EQ(Said(),
-              (Lines{In("open [Open Center Pivot Data] All Files (*.cpd)|*.cpd; cpd; 0x804; ") + "/gone"}));
+    EXPECT_EQ(Said(), (Lines{"open [Open Center Pivot Data] All Files (*.cpd)|*.cpd; cpd; 0x804; " +
+                             (folder / "gone").string()}));
 }
 
 TEST_F(FrmMain, TheButtonAsksBeforeItClosesAnOpenFile) {
@@ -520,7 +520,7 @@ TEST_F(FrmMain, AGivenFileThatIsNoneOrOfNoKindIsTold) {
     window.OpenGivenFile(folder.Path());
     window.OpenGivenFile(folder / "a.txt");
     EXPECT_EQ(Said(),
-              (Lines{In("box [Open File] There is no file ") + "/none.txt. (Ok)",
+              (Lines{"box [Open File] There is no file " + (folder / "none.txt").string() + ". (Ok)",
                      In("box [Open File] There is no file ") + ". (Ok)",
                      "box [Open File] a.txt is neither a center pivot (*.cpd) nor a solid set (*.ssd) "
                      "data file. (Ok)"}));

@@ -4,6 +4,7 @@
 #include "core/RecordFiles.h"
 #include "tests/faults/Saving.h"
 #include "tests/support/CompleteUserSettings.h"
+#include "tests/support/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -31,18 +32,13 @@ protected:
     ~CommandLineFaults() override { ::close(errors); }
 
     void ExpectSafeCall(Lines arguments, const Lines& outputs) {
-        arguments.insert(arguments.begin(), "orvel-cli");
         arguments.insert(arguments.end(), {"--program-dir", inputs.Path(), "--now", "2026-07-04 09:05:03"});
-        std::vector<const char*> argv;
-        for (const std::string& argument : arguments) {
-            argv.push_back(argument.c_str());
-        }
         const std::string ofOutput = "orvel-cli: " + folder.Path().native() + "/&";
         const std::string ofInput = "orvel-cli: " + inputs.Path().native() + "/&";
         Saving saving = {
             .folder = folder.Path(),
             .files = {},
-            .save = [&] { status = cli::RunCommandLine(static_cast<int>(argv.size()), argv.data()); },
+            .save = [&] { status = cli::RunCommandLine(arguments); },
             .said = [this] { return Told(); },
             // A folder of the call that cannot be looked at makes it a wrong call.
             .failures = {{ofOutput, "status 3"},
@@ -52,7 +48,7 @@ protected:
                          {"orvel-cli: --output-dir: no such folder: " + folder.Path().native(), "status 2"},
                          {"orvel-cli: --program-dir: no such folder: " + inputs.Path().native(), "status 2"}},
             .prepare = [this] { BeginErrors(); },
-            .isFlushed = arguments.at(1) == "build"};
+            .isFlushed = arguments.at(0) == "build"};
         for (const std::string& output : outputs) {
             saving.files.push_back(OldOutput(output));
         }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/SafeFile.h"
 #include "tests/faults/Tracer.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestFiles.h"
 
 #include <array>

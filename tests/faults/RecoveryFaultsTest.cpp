@@ -3,6 +3,7 @@
 #include "tests/entry/DataWindowTest.h"
 #include "tests/faults/SmallDisk.h"
 #include "tests/faults/Tracer.h"
+#include "tests/support/OrdinaryUser.h"
 
 #include <algorithm>
 #include <array>

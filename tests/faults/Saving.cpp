@@ -5,6 +5,7 @@
 #include "core/RunTimeError.h"
 #include "tests/faults/SmallDisk.h"
 #include "tests/faults/Tracer.h"
+#include "tests/support/OrdinaryUser.h"
 
 #include <algorithm>
 #include <array>

@@ -57,7 +57,7 @@ TEST(RtfCharset, DecodesSingleBytePages) {
              {1251, "\xE9", U"\u0439"},
              {1253, "\xE1", U"\u03B1"},
              {1254, "\xFE", U"\u015F"},
-             {1255, "\xF9\xD1", U"\uFB2A"},
+             {1255, "\xF9", U"\u05E9"},
              {1256, "\xC8", U"\u0628"},
              {1257, "\xE8", U"\u010D"},
              {1258, "\xFE", U"\u20AB"},

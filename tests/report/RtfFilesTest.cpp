@@ -64,7 +64,7 @@ TEST_F(RtfFiles, TheTextIsTheOneThatWordProcessorsSee) {
             continue;
         }
         ++files;
-        const std::string name = entry.path().stem();
+        const std::string name = entry.path().stem().string();
         constexpr std::size_t kByteOrderMark = 3;
         std::string expected = Words(Contents(TestData("rtf/" + name + ".txt")).substr(kByteOrderMark));
         for (const Difference& difference : kDifferences) {

@@ -78,7 +78,7 @@ TEST_F(RtfReader, BytesAreInTheCodePageOfTheirFontElseOfTheDocument) {
          {"\\ansicpg99999\\'e9", "\u00E9"},
          {"\\ansicpg932\\'93\\'fa\\'96{x}", "\u65E5\uFFFDx"},
          {"\\ansicpg936\\'d6\\'d0 \\ansicpg949\\'c7\\'d1 \\ansicpg950\\'a4\\'a4", "\u4E2D \uD55C \u4E2D"},
-         {"\\ansicpg1255\\'f9\\'d1", "\uFB2A"},
+         {"\\ansicpg1255\\'f9\\'ec", "\u05E9\u05DC"},
          {"\\'zz\\'9", "zz9"}},
         Text);
     EXPECT_EQ(Text(fonts + "\\f1\\'e9\\f0\\'e9\\f2\\'93\\'fa\\'83A\\f3\\'e1\\f4\\'b7"),

@@ -7,6 +7,7 @@
 #include "core/ProgramWindows.h"
 #include "core/RecordFiles.h"
 #include "solidset/SolidSetListing.h"
+#include "tests/report/FrmShowRTFFixture.h"
 #include "tests/report/PrintableBox.h"
 #include "tests/support/TestFiles.h"
 
@@ -19,23 +20,6 @@ namespace {
 using testing::Contents;
 using testing::Lines;
 using testing::PutContents;
-using testing::TemporaryFolder;
-
-class FrmShowRTF : public testing::PrintingTest, public frmShowRTF::View {
-protected:
-    FrmShowRTF() { Program().programDirectory = folder.Path(); }
-
-    void Show(std::string_view what) { window.ShowTopic(what); }
-
-    TemporaryFolder folder;
-    frmShowRTF window{*this};
-
-private:
-    RichTextBox& TextBox() override { return box; }
-    void SetCaption(const std::string& caption) override { surroundings.Note("caption " + caption); }
-    void Show() override { surroundings.Note("show"); }
-    void Unload() override { surroundings.Note("unload"); }
-};
 
 TEST_F(FrmShowRTF, HelpLoadsItsFile) {
     PutContents(folder / "help.rtf", R"({\rtf1 How to {\b set out} cups})");
@@ -71,14 +55,6 @@ TEST_F(FrmShowRTF, HelpThatIsNoRichTextShowsAsItIs) {
     Show(kViewHelp);
     EXPECT_EQ(Said().front(), "caption Help & Instructions");
     EXPECT_EQ(box.Text(), "Only text.");
-}
-
-TEST_F(FrmShowRTF, HelpThatCannotBeReadSaysWhy) {
-    std::filesystem::create_symlink("/proc/self/mem", folder / "help.rtf");
-    Show(kViewHelp);
-    EXPECT_EQ(Said(), (Lines{"caption Help & Instructions", "show"}));
-    EXPECT_EQ(box.Text(),
-              (folder / "help.rtf").native() + " can't be opened: cannot read: Input/output error.");
 }
 
 TEST_F(FrmShowRTF, ListingsTakeTheNameOfTheirFile) {

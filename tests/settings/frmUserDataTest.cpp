@@ -111,7 +111,7 @@ TEST_F(FrmUserData, BrowseTakesAFolderThatExists) {
     for (int i = 0; i < 3; ++i) {
         window.cmdBtnBrowse_Click();
         EXPECT_EQ(Said(), (Lines{browser}));
-        EXPECT_EQ(form.texts.at("txtBoxDefaultDirectory"), folder.Path().native()) << "without a separator";
+        EXPECT_EQ(form.texts.at("txtBoxDefaultDirectory"), folder.Path().string()) << "without a separator";
     }
     EXPECT_EQ(Program().userSettings.DefaultDirectory.Trimmed(), "/tests") << "not before Save or Cancel";
 }

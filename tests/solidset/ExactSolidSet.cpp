@@ -11,15 +11,15 @@ namespace {
 
 // The hours and the quotient have no type of their own. Their roundings show where the exact quotient lies in
 // the middle between two Singles, as it may after 40 minutes, which make it three halves of the average.
-float RateOver(const mpq_class& minutes, const mpq_class& average) {
-    const mpq_class hours = RoundToExtended(minutes / 60);
+float RateOver(const Rational& minutes, const Rational& average) {
+    const Rational hours = RoundToExtended(minutes / 60);
     return RoundToSingle(RoundToExtended(Quotient(average, hours)));
 }
 
 void Calculate(const SolidSetTest& test, ExactSolidSetResults& results) {
     results.cupCount = ExactCupCount(test.Gauges);
-    std::vector<mpq_class> depths;
-    mpq_class sum;
+    std::vector<Rational> depths;
+    Rational sum;
     for (int i = 1; i <= results.cupCount; ++i) {
         float& depth = results.depths.at(static_cast<std::size_t>(i));
         depth = ExactDepth(test.Gauges[i].Volume, Single(test.GuageDiameter));
@@ -31,7 +31,7 @@ void Calculate(const SolidSetTest& test, ExactSolidSetResults& results) {
         results.maximumDepth = std::max(results.maximumDepth, results.depths.at(static_cast<std::size_t>(i)));
     }
     results.averageDepth = RoundToSingle(Quotient(sum, results.cupCount));
-    const mpq_class average(results.averageDepth);
+    const Rational average(results.averageDepth);
     results.cu = RoundToSingle(ExactChristiansen(depths, average));
     results.du = RoundToSingle(ExactLowQuarter(depths, average));
     const std::string duration{Entry(test.Duration)};

@@ -4,9 +4,9 @@
 
 #include "core/Platform.h"
 #include "core/Records.h"
+#include "tests/support/Rational.h"
 
 #include <cstdint>
-#include <gmpxx.h>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -48,19 +48,19 @@ private:
 
 // To the nearest value of the type, ties to even; 0 below half of the smallest subnormal. Throws
 // ExactError 6.
-[[nodiscard]] float RoundToSingle(const mpq_class& value);
-[[nodiscard]] double RoundToDouble(const mpq_class& value);
+[[nodiscard]] float RoundToSingle(const Rational& value);
+[[nodiscard]] double RoundToDouble(const Rational& value);
 
 // The same to the 64 binary digits of the extended type, for the temporaries of a formula whose exact value
 // can lie in the middle between two Singles: there a temporary's own rounding decides.
-[[nodiscard]] mpq_class RoundToExtended(const mpq_class& value);
+[[nodiscard]] Rational RoundToExtended(const Rational& value);
 
 // Throws ExactError 11 for x / 0 and 6 for 0 / 0.
-[[nodiscard]] mpq_class Quotient(const mpq_class& dividend, const mpq_class& divisor);
+[[nodiscard]] Rational Quotient(const Rational& dividend, const Rational& divisor);
 
 // A decimal number with an optional sign, "." and exponent, blanks around it; an exponent beyond 5000 counts
 // as 5000, which is beyond every type all the same. Throws ExactError 13.
-[[nodiscard]] mpq_class ReadDecimal(std::string_view text);
+[[nodiscard]] Rational ReadDecimal(std::string_view text);
 
 [[nodiscard]] std::string_view WithoutBlanks(std::string_view text);
 
@@ -72,17 +72,17 @@ std::string_view Entry(const FixedText<N>& field) {
 }
 
 template <std::size_t N>
-mpq_class Single(const FixedText<N>& field) {
-    return mpq_class(RoundToSingle(ReadDecimal(field.Whole())));
+Rational Single(const FixedText<N>& field) {
+    return Rational(RoundToSingle(ReadDecimal(field.Whole())));
 }
 
 template <std::size_t N>
-mpq_class Double(const FixedText<N>& field) {
-    return mpq_class(RoundToDouble(ReadDecimal(field.Whole())));
+Rational Double(const FixedText<N>& field) {
+    return Rational(RoundToDouble(ReadDecimal(field.Whole())));
 }
 
 // 3.14159265358979, as the double that these digits mean.
-[[nodiscard]] const mpq_class& ExactPi();
+[[nodiscard]] const Rational& ExactPi();
 
 // The cups before the first two zeros in a row. Throws ExactError 9 when entry 301 would be looked at.
 template <class Gauge>
@@ -97,10 +97,10 @@ std::int16_t ExactCupCount(const MeasurementList<Gauge>& gauges) {
 }
 
 // The depth, in inches, of a volume (cc) in a cup of that diameter (cm).
-[[nodiscard]] float ExactDepth(float volume, const mpq_class& diameter);
+[[nodiscard]] float ExactDepth(float volume, const Rational& diameter);
 
 // Both in percent, and not rounded.
-[[nodiscard]] mpq_class ExactChristiansen(const std::vector<mpq_class>& depths, const mpq_class& average);
-[[nodiscard]] mpq_class ExactLowQuarter(std::vector<mpq_class> depths, const mpq_class& average);
+[[nodiscard]] Rational ExactChristiansen(const std::vector<Rational>& depths, const Rational& average);
+[[nodiscard]] Rational ExactLowQuarter(std::vector<Rational> depths, const Rational& average);
 
 } // namespace orvel::testing

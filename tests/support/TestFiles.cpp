@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/TestFiles.h"
 
+#include "core/FileNames.h"
+
 #include <algorithm>
-#include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
-#include <unistd.h>
 #include <vector>
 
 namespace orvel::testing {
@@ -40,12 +41,14 @@ std::string_view LineAround(std::string_view text, std::size_t position) {
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder() {
-    std::string pattern = (fs::temp_directory_path() / "orvel-test-XXXXXX").native();
-    if (::mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("cannot make a temporary folder");
-    }
-    path = pattern;
+TemporaryFolder::TemporaryFolder() : path(fs::path()) {
+    std::random_device random;
+    do {
+        std::ostringstream name;
+        name << "orvel-test-" << std::hex << random();
+        path = TextPath(fs::temp_directory_path() / name.str());
+    } while (!fs::create_directory(path));
+    fs::permissions(path, fs::perms::owner_all);
 }
 
 TemporaryFolder::~TemporaryFolder() {
@@ -54,46 +57,25 @@ TemporaryFolder::~TemporaryFolder() {
     fs::remove_all(path, error);
 }
 
+TextPath TemporaryFolder::operator/(const std::string& name) const {
+    return TextPath(path / PathOfSystemText(name));
+}
+
 std::vector<std::string> TemporaryFolder::Names() const {
     std::vector<std::string> names;
     for (const auto& entry : fs::directory_iterator(path)) {
-        names.push_back(entry.path().filename());
+        names.push_back(entry.path().filename().string());
     }
     std::ranges::sort(names);
     return names;
 }
 
-void GiveToOrdinaryUser(const fs::path& folder) {
-    if (::geteuid() != 0) {
-        return;
-    }
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-        EXPECT_EQ(::lchown(entry.path().c_str(), kOrdinaryUser, kOrdinaryUser), 0);
-    }
-    EXPECT_EQ(::lchown(folder.c_str(), kOrdinaryUser, kOrdinaryUser), 0);
+TextPath TestData(const std::string& name) {
+    return TextPath(fs::path(ORVEL_TEST_DATA) / name);
 }
 
-AsOrdinaryUser::AsOrdinaryUser(const fs::path& folder) {
-    if (::geteuid() != 0) {
-        return;
-    }
-    GiveToOrdinaryUser(folder);
-    EXPECT_EQ(::seteuid(kOrdinaryUser), 0);
-    hasSwitched = true;
-}
-
-AsOrdinaryUser::~AsOrdinaryUser() {
-    if (hasSwitched) {
-        EXPECT_EQ(::seteuid(0), 0);
-    }
-}
-
-fs::path TestData(const std::string& name) {
-    return fs::path(ORVEL_TEST_DATA) / name;
-}
-
-fs::path Example(const std::string& name) {
-    return fs::path(ORVEL_EXAMPLES) / name;
+TextPath Example(const std::string& name) {
+    return TextPath(fs::path(ORVEL_EXAMPLES) / name);
 }
 
 std::string Contents(const fs::path& path) {

@@ -6,9 +6,18 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orvel::testing {
+
+// A path that is a text too, on every system.
+class TextPath : public std::filesystem::path {
+public:
+    explicit TextPath(std::filesystem::path other) : path(std::move(other)) {}
+
+    operator std::string() const { return string(); }
+};
 
 // An empty folder of a test's own, removed with everything in it at the end.
 class TemporaryFolder {
@@ -18,40 +27,22 @@ public:
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    [[nodiscard]] const std::filesystem::path& Path() const { return path; }
+    [[nodiscard]] const TextPath& Path() const { return path; }
 
-    [[nodiscard]] std::filesystem::path operator/(const std::string& name) const { return path / name; }
+    // The name is a text of the system (core/FileNames).
+    [[nodiscard]] TextPath operator/(const std::string& name) const;
 
     // The names in the folder, sorted; a test asks for them to see that no litter stayed.
     [[nodiscard]] std::vector<std::string> Names() const;
 
 private:
-    std::filesystem::path path;
-};
-
-// Whom permissions stop, for tests that run as root.
-inline constexpr unsigned kOrdinaryUser = 65534;
-
-// Where the tests run as root: gives the folder and all that is in it to the ordinary user.
-void GiveToOrdinaryUser(const std::filesystem::path& folder);
-
-// Acts as an ordinary user for its lifetime when the tests run as root, whom no permission stops. The folder
-// is handed over to that user first.
-class AsOrdinaryUser {
-public:
-    explicit AsOrdinaryUser(const std::filesystem::path& folder);
-    ~AsOrdinaryUser();
-    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
-    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
-
-private:
-    bool hasSwitched = false;
+    TextPath path;
 };
 
 // A file of tests/data.
-[[nodiscard]] std::filesystem::path TestData(const std::string& name);
+[[nodiscard]] TextPath TestData(const std::string& name);
 // A file of examples/.
-[[nodiscard]] std::filesystem::path Example(const std::string& name);
+[[nodiscard]] TextPath Example(const std::string& name);
 
 [[nodiscard]] std::string Contents(const std::filesystem::path& path);
 void PutContents(const std::filesystem::path& path, std::string_view contents);

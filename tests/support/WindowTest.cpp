@@ -56,7 +56,7 @@ std::string Surroundings::Line(const Message& message) {
 std::string Surroundings::Line(const std::string& kind, const FileDialog& dialog) {
     std::ostringstream line;
     line << kind << " [" << dialog.title << "] " << dialog.filter << "; " << dialog.defaultExtension << "; 0x"
-         << std::hex << dialog.flags << "; " << dialog.initialFolder.native();
+         << std::hex << dialog.flags << "; " << dialog.initialFolder.string();
     return line.str();
 }
 

@@ -21,12 +21,11 @@ struct Call {
     std::string err;
 };
 
-Call CallWith(std::vector<const char*> arguments) {
-    arguments.insert(arguments.begin(), "orvel");
+Call CallWith(const std::vector<const char*>& arguments) {
     Call call;
     ::testing::internal::CaptureStdout();
     ::testing::internal::CaptureStderr();
-    call.options = ReadOptions(static_cast<int>(arguments.size()), arguments.data(), call.status);
+    call.options = ReadOptions({arguments.begin(), arguments.end()}, call.status);
     call.out = ::testing::internal::GetCapturedStdout();
     call.err = ::testing::internal::GetCapturedStderr();
     return call;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
-#include "core/Descriptor.h"
+#include "core/posix/Descriptor.h"
 
 #include "core/RunTimeError.h"
 

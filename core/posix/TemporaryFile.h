@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "core/Descriptor.h"
+#include "core/posix/Descriptor.h"
 
 #include <filesystem>
 #include <string>
@@ -12,14 +12,11 @@ namespace orvel {
 // A new file of a folder that is to take another file's name when it is complete. It is removed at the end of
 // its scope unless it has.
 //
-// A folder has few names for them, ".orvel-save-1" to ".orvel-save-8", one for each save that is under way at
-// the same time; should they not suffice, other ".orvel-" and six digits of hexadecimal. Who writes one holds
-// its lock (flock), so that one without is what a killed program left: whatever is saved next in that folder
-// removes it. A name that is taken for another reason stays: the file of somebody else, a folder, a link, a
-// file of more than one name, one on a file system without locks. No failure of tidying up is one of the
-// save.
+// It has one of the names in core/TemporaryNames. Who writes it holds its lock (flock). A name that is taken
+// for another reason stays: the file of somebody else, a folder, a link, a file of more than one name, one on
+// a file system without locks. No failure of tidying up is one of the save.
 //
-// Until it is given other permissions (core/FilePermissions), it has those with which it was created.
+// Until it is given other permissions (core/posix/GivePermissions), it has those with which it was created.
 class TemporaryFile {
 public:
     static constexpr unsigned kOwnerOnly = 0600;

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
-#include "core/TemporaryFile.h"
+#include "core/posix/TemporaryFile.h"
 
 #include "core/SafeFile.h"
+#include "tests/core/TemporaryFilesFixture.h"
 #include "tests/support/LogicTest.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestFiles.h"
 
 #include <fcntl.h>
@@ -27,36 +29,16 @@ using testing::ExpectRunTimeError;
 using testing::PutContents;
 using testing::TemporaryFolder;
 
-using Names = std::vector<std::string>;
+class TemporaryFilesOnPosix : public TemporaryFiles {};
 
-class TemporaryFiles : public ::testing::Test {
-protected:
-    // Saves, which must leave just these files.
-    void ExpectLeftBySave(Names names) {
-        ReplaceFile(folder / "file", "new", Flush::Lazy);
-        names.emplace_back("file");
-        std::ranges::sort(names);
-        EXPECT_EQ(folder.Names(), names);
-    }
-
-    TemporaryFolder folder;
-};
-
-TEST_F(TemporaryFiles, WhatAKilledProgramLeftIsRemovedByTheNextSave) {
-    for (const char* name : {".orvel-save-1", ".orvel-save-2", ".orvel-save-5", ".orvel-save-8"}) {
-        PutContents(folder / name, "half of a tes");
-    }
-    ExpectLeftBySave({});
-}
-
-TEST_F(TemporaryFiles, SoIsOneOfAFileThatNobodyMayRead) {
+TEST_F(TemporaryFilesOnPosix, SoIsOneOfAFileThatNobodyMayRead) {
     const testing::AsOrdinaryUser user(folder.Path());
     PutContents(folder / ".orvel-save-1", "half of a tes");
     fs::permissions(folder / ".orvel-save-1", fs::perms::owner_write);
     ExpectLeftBySave({});
 }
 
-TEST_F(TemporaryFiles, EachSaveUnderWayHasOneOfItsOwn) {
+TEST_F(TemporaryFilesOnPosix, EachSaveUnderWayHasOneOfItsOwn) {
     std::vector<std::unique_ptr<TemporaryFile>> files;
     for (int i = 0; i < 10; ++i) {
         files.push_back(std::make_unique<TemporaryFile>(folder.Path(), TemporaryFile::kOwnerOnly));
@@ -73,7 +55,7 @@ TEST_F(TemporaryFiles, EachSaveUnderWayHasOneOfItsOwn) {
     EXPECT_EQ(folder.Names(), Names{"file"});
 }
 
-TEST_F(TemporaryFiles, OneKeepsItsLockUntilItHasItsName) {
+TEST_F(TemporaryFilesOnPosix, OneKeepsItsLockUntilItHasItsName) {
     TemporaryFile file(folder.Path(), TemporaryFile::kOwnerOnly);
     ASSERT_TRUE(file.TakeName(folder / "taken"));
     EXPECT_FALSE(file.IsOpen());
@@ -83,7 +65,7 @@ TEST_F(TemporaryFiles, OneKeepsItsLockUntilItHasItsName) {
     ExpectLeftBySave({".orvel-save-1", "taken"});
 }
 
-TEST_F(TemporaryFiles, OthersOfTheNameAreLeftAlone) {
+TEST_F(TemporaryFilesOnPosix, OthersOfTheNameAreLeftAlone) {
     fs::create_directory(folder / ".orvel-save-1");
     fs::create_symlink("precious", folder / ".orvel-save-2");
     PutContents(folder / "precious", "x");
@@ -102,7 +84,7 @@ TEST_F(TemporaryFiles, OthersOfTheNameAreLeftAlone) {
 }
 
 // Only root can set the scene; to anybody else the file is one of their own.
-TEST_F(TemporaryFiles, ThatOfAnotherUserIsLeftAlone) {
+TEST_F(TemporaryFilesOnPosix, ThatOfAnotherUserIsLeftAlone) {
     PutContents(folder / ".orvel-save-1", "x");
     fs::permissions(folder / ".orvel-save-1", fs::perms::all);
     const testing::AsOrdinaryUser user(folder.Path());
@@ -117,7 +99,7 @@ TEST_F(TemporaryFiles, ThatOfAnotherUserIsLeftAlone) {
     }
 }
 
-TEST_F(TemporaryFiles, NoFileIsSavedUnderTheirNames) {
+TEST_F(TemporaryFilesOnPosix, NoFileIsSavedUnderTheirNames) {
     fs::create_symlink(".orvel-save-8", folder / "link");
     for (const char* name : {".orvel-save-1", "link"}) {
         ExpectRunTimeError(ErrorNumber::PathFileAccessError,

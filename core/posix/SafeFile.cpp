@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "core/SafeFile.h"
 
-#include "core/Descriptor.h"
-#include "core/FilePermissions.h"
 #include "core/RunTimeError.h"
-#include "core/TemporaryFile.h"
+#include "core/posix/Descriptor.h"
+#include "core/posix/GivePermissions.h"
+#include "core/posix/TemporaryFile.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
-#include "core/FilePermissions.h"
+#include "core/posix/GivePermissions.h"
 
-#include "core/Descriptor.h"
+#include "core/posix/Descriptor.h"
 
 #include <cerrno>
-#include <fcntl.h>
 #include <string>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -65,10 +64,6 @@ void SetAccessList(int file, const std::string& list) {
 }
 
 } // namespace
-
-bool IsClosedToUser(const std::filesystem::path& path) {
-    return ::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == -1 && errno == EACCES;
-}
 
 void GivePermissionsOf(const std::filesystem::path& old, const struct stat& oldStatus, int newFile) {
     KeepOwnerAndGroup(oldStatus, newFile);

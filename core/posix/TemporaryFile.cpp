@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ORVEL developers
 // SPDX-License-Identifier: MIT
-#include "core/TemporaryFile.h"
+#include "core/posix/TemporaryFile.h"
+
+#include "core/TemporaryNames.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
+#include <cerrno>
 #include <fcntl.h>
-#include <string>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -17,11 +17,6 @@ namespace orvel {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::array<std::string_view, 8> kNames = {
-    ".orvel-save-1", ".orvel-save-2", ".orvel-save-3", ".orvel-save-4",
-    ".orvel-save-5", ".orvel-save-6", ".orvel-save-7", ".orvel-save-8",
-};
 
 bool MayBeOurs(const struct stat& file) {
     const uid_t user = ::geteuid();
@@ -54,27 +49,19 @@ bool IsTakenAway(const Descriptor& file) {
            (::fstat(file.Get(), &status) == 0 && status.st_nlink == 0);
 }
 
-std::string OtherName(unsigned number) {
-    constexpr unsigned kSixDigits = 0xFFFFFF;
-    std::array<char, 16> text{};
-    (void)std::snprintf(text.data(), text.size(), ".orvel-%06x", number & kSixDigits);
-    return text.data();
-}
-
 } // namespace
 
 TemporaryFile::TemporaryFile(const fs::path& folder, unsigned mode) {
-    for (const std::string_view each : kNames) {
+    for (const std::string_view each : kTemporaryNames) {
         const fs::path path = folder / each;
         RemoveIfLeftBehind(path);
         if (!IsOpen() && !Create(path, mode) && errno != EEXIST) {
             return;
         }
     }
-    constexpr unsigned kMostTries = 1000;
     const auto first = static_cast<unsigned>(::getpid());
-    for (unsigned i = 0; i < kMostTries && !IsOpen(); ++i) {
-        if (!Create(folder / OtherName(first + i), mode) && errno != EEXIST) {
+    for (unsigned i = 0; i < kMostOtherNames && !IsOpen(); ++i) {
+        if (!Create(folder / OtherTemporaryName(first + i), mode) && errno != EEXIST) {
             return;
         }
     }
@@ -87,7 +74,7 @@ TemporaryFile::~TemporaryFile() {
 }
 
 bool TemporaryFile::IsNameOfOne(const fs::path& path) {
-    return std::ranges::find(kNames, path.filename().native()) != kNames.end();
+    return std::ranges::find(kTemporaryNames, path.filename().native()) != kTemporaryNames.end();
 }
 
 bool TemporaryFile::TakeName(const fs::path& path) {

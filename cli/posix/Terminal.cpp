@@ -2,20 +2,16 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Terminal.h"
 
-#ifdef _WIN32
-#include <io.h>
-#else
 #include <unistd.h>
-#endif
 
 namespace orvel::cli {
 
 bool IsTerminal(std::FILE* stream) {
-#ifdef _WIN32
-    return _isatty(_fileno(stream)) != 0;
-#else
     return ::isatty(::fileno(stream)) != 0;
-#endif
 }
+
+// The streams are what they should be.
+Terminal::Terminal() = default;
+Terminal::~Terminal() = default;
 
 } // namespace orvel::cli
