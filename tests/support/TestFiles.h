@@ -14,6 +14,7 @@ namespace orvel::testing {
 // A path that is a text too, on every system.
 class TextPath : public std::filesystem::path {
 public:
+    using path::path;
     explicit TextPath(std::filesystem::path other) : path(std::move(other)) {}
 
     operator std::string() const { return string(); }
