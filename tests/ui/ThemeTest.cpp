@@ -40,7 +40,7 @@ double Luminance(QRgb color) {
 }
 
 double Contrast(QRgb one, QRgb other) {
-    const auto [dark, light] = std::minmax(Luminance(one), Luminance(other));
+    const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 
