@@ -4,8 +4,9 @@
 
 namespace orvel::cli {
 
-// The streams are what they should be.
-Terminal::Terminal() = default;
-Terminal::~Terminal() = default;
+// The streams are so by themselves.
+int OnTerminal(const std::function<int()>& work) {
+    return work();
+}
 
 } // namespace orvel::cli

@@ -20,22 +20,20 @@ bool IsTerminal(DWORD stream) {
 
 } // namespace
 
-Terminal::Terminal() {
+int OnTerminal(const std::function<int()>& work) {
     for (std::FILE* stream : {stdin, stdout, stderr}) {
         (void)::_setmode(::_fileno(stream), _O_BINARY);
     }
-    if (IsTerminal(STD_OUTPUT_HANDLE) || IsTerminal(STD_ERROR_HANDLE)) {
-        codePageBefore = ::GetConsoleOutputCP();
-        ::SetConsoleOutputCP(CP_UTF8);
+    if (!IsTerminal(STD_OUTPUT_HANDLE) && !IsTerminal(STD_ERROR_HANDLE)) {
+        return work();
     }
-}
-
-Terminal::~Terminal() {
-    if (codePageBefore != 0) {
-        // What is still on its way would be shown in the other page.
-        (void)std::fflush(stdout);
-        ::SetConsoleOutputCP(codePageBefore);
-    }
+    const UINT pageBefore = ::GetConsoleOutputCP();
+    ::SetConsoleOutputCP(CP_UTF8);
+    const int status = work();
+    // What is still on its way would be shown in the other page.
+    (void)std::fflush(stdout);
+    ::SetConsoleOutputCP(pageBefore);
+    return status;
 }
 
 } // namespace orvel::cli
