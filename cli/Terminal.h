@@ -3,23 +3,15 @@
 #pragma once
 
 #include <cstdio>
+#include <functional>
 
 namespace orvel::cli {
 
 // Whether somebody looks on while the stream is written.
 [[nodiscard]] bool IsTerminal(std::FILE* stream);
 
-// For its lifetime the standard streams take and give texts byte for byte, and what is written to a terminal
-// is shown as the UTF-8 that it is.
-class Terminal {
-public:
-    Terminal();
-    ~Terminal();
-    Terminal(const Terminal&) = delete;
-    Terminal& operator=(const Terminal&) = delete;
-
-private:
-    unsigned codePageBefore = 0; // 0: unchanged
-};
+// Does the program's work, whose exit status it returns. Meanwhile the standard streams take and give texts
+// byte for byte, and a terminal shows what is written to it as the UTF-8 that it is.
+[[nodiscard]] int OnTerminal(const std::function<int()>& work);
 
 } // namespace orvel::cli

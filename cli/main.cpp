@@ -8,8 +8,8 @@
 
 int main(int argc, char** argv) {
     orvel::SurviveFileSizeLimit();
-    const orvel::cli::Terminal terminal;
     orvel::UseCodePage(orvel::CodePage::OfSystem());
     orvel::UseNumberLocale(orvel::SystemNumberLocale());
-    return orvel::cli::RunCommandLine(orvel::CallArguments(argc, argv));
+    return orvel::cli::OnTerminal(
+        [&] { return orvel::cli::RunCommandLine(orvel::CallArguments(argc, argv)); });
 }

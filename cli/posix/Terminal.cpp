@@ -10,8 +10,9 @@ bool IsTerminal(std::FILE* stream) {
     return ::isatty(::fileno(stream)) != 0;
 }
 
-// The streams are what they should be.
-Terminal::Terminal() = default;
-Terminal::~Terminal() = default;
+// The streams are so by themselves.
+int OnTerminal(const std::function<int()>& work) {
+    return work();
+}
 
 } // namespace orvel::cli

@@ -11,25 +11,25 @@
 namespace orvel::cli {
 
 bool IsTerminal(std::FILE* stream) {
-    return ::_isatty(::_fileno(stream)) != 0;
+    DWORD mode = 0;
+    const auto handle = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
+    return ::GetConsoleMode(handle, &mode) != 0;
 }
 
-Terminal::Terminal() {
+int OnTerminal(const std::function<int()>& work) {
     for (std::FILE* stream : {stdin, stdout, stderr}) {
         (void)::_setmode(::_fileno(stream), _O_BINARY);
     }
-    if (IsTerminal(stdout) || IsTerminal(stderr)) {
-        codePageBefore = ::GetConsoleOutputCP();
-        ::SetConsoleOutputCP(CP_UTF8);
+    if (!IsTerminal(stdout) && !IsTerminal(stderr)) {
+        return work();
     }
-}
-
-Terminal::~Terminal() {
-    if (codePageBefore != 0) {
-        // What is still on its way would be shown in the other page.
-        (void)std::fflush(stdout);
-        ::SetConsoleOutputCP(codePageBefore);
-    }
+    const UINT pageBefore = ::GetConsoleOutputCP();
+    ::SetConsoleOutputCP(CP_UTF8);
+    const int status = work();
+    // What is still on its way would be shown in the other page.
+    (void)std::fflush(stdout);
+    ::SetConsoleOutputCP(pageBefore);
+    return status;
 }
 
 } // namespace orvel::cli
