@@ -11,18 +11,17 @@
 // Makes the instructions: orvel-make-help --rtf|--manual SOURCE RESULT.
 
 int main(int argc, char** argv) {
-    using namespace orvel;
     constexpr int kArguments = 4;
     if (argc != kArguments) {
         (void)std::fputs("orvel-make-help --rtf|--manual SOURCE RESULT\n", stderr);
         return 2;
     }
     try {
-        const std::string source = ReadFile(argv[2]);
+        const std::string source = orvel::ReadFile(argv[2]);
         if (std::string_view(argv[1]) == "--rtf") {
-            SaveRtf(argv[3], help::HelpDocument(source));
+            orvel::SaveRtf(argv[3], orvel::help::HelpDocument(source));
         } else {
-            ReplaceFile(argv[3], help::ManualPage(source), Flush::Lazy);
+            orvel::ReplaceFile(argv[3], orvel::help::ManualPage(source), orvel::Flush::Lazy);
         }
     } catch (const std::exception& error) {
         (void)std::fprintf(stderr, "%s: %s\n", argv[2], error.what());

@@ -3,5 +3,6 @@
 # SPDX-License-Identifier: MIT
 # Starts the installed command line with the folder that the desktop program keeps the user's settings in.
 installed=$(dirname "$(readlink -f "$0")")/..
-own=${ORVEL_PROGRAM_DIR:-${XDG_DATA_HOME:-$HOME/.local/share}/orvel}
+# shellcheck source=packaging/own-folder.sh
+. "$installed/libexec/orvel/own-folder.sh"
 ORVEL_PROGRAM_DIR=$own exec "$installed/libexec/orvel/orvel-cli" "$@"

@@ -38,7 +38,7 @@ std::optional<Options> ReadOptions(const std::vector<std::string>& arguments, in
     app.add_option_function<std::string>(
            "--program-dir",
            [&options](const std::string& folder) { options.programDirectory = PathOfSystemText(folder); },
-           "Where user.usr, soil.dat and help.rtf are (default: the program's folder)")
+           "Where user.usr, soil.dat and help.rtf are (default: ORVEL_PROGRAM_DIR, else the program's folder)")
         ->type_name("FOLDER")
         ->check(CLI::Validator(
             [](const std::string& name) {

@@ -7,7 +7,7 @@ import os
 import struct
 import subprocess
 
-from program import EXAMPLES, PROGRAM, ProgramTest, desktop, main, pivot_to_type, text, user_settings
+from program import EXAMPLES, PROGRAM, ProgramTest, command_line, desktop, main, pivot_to_type, text, user_settings
 
 VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
 
@@ -100,6 +100,36 @@ class DesktopTest(ProgramTest):
         desktop.wait_for_text("Close data entry window?")
         desktop.press("Yes")
         desktop.wait_until_gone(window, "dialog")
+
+    def test_the_walk_through_the_first_test(self):
+        """What README.md tells a new user to do, and no more."""
+        self.new_test_in_its_window("Center Pivot", "cpd")
+        desktop.type_into("Client Name:", "Alder Creek Farms")
+        desktop.press("Field Information", "page tab")
+        desktop.select("Soil Type:", 4)
+        desktop.press("Test Data", "page tab")
+        desktop.type_into("Rain Gauge Diameter (cm):", "10")
+        desktop.type_into("Distance to First Gauge (feet):", "30")
+        desktop.type_into("Gauge Spacing (feet):", "20")
+        desktop.press("Auto Fill")
+        desktop.press("Yes")
+        desktop.wait_until_gone("Auto Complete Entries")
+        desktop.press_cell(1, 2)
+        desktop.keys(*[key for reading in (112, 98, 105, 60) for key in [*str(reading), "Down"]], delay=5)
+        desktop.press("Save and Exit")
+        desktop.find("Possible Errors in Data", "alert")
+        desktop.press("OK")
+        desktop.wait_for_text("Close data entry window?")
+        desktop.press("Yes")
+        desktop.wait_until_gone("Center Pivot Data Entry", "dialog")
+        desktop.press("Generate Report")
+        desktop.find("Possible Errors in Data", "alert")
+        desktop.press("OK")
+        desktop.find("Report", "frame")
+
+        test = json.loads(command_line("dump", self.folder / "typed.cpd"))
+        self.assertEqual([(cup["Footage"], cup["Volume"]) for cup in test["Gauges"][:5]],
+                         [(30, 112), (50, 98), (70, 105), (90, 60), (110, 0)])
 
     def test_a_center_pivot_test_is_typed_from_the_field_sheet(self):
         test, readings = pivot_to_type()

@@ -117,7 +117,7 @@ class DebianPackageTest(unittest.TestCase):
         self.assertEqual(sorted(path.name for path in own.iterdir()), ["help.rtf", "soil.dat", "user.usr"])
         self.assertEqual(str((own / "help.rtf").readlink()), "/usr/share/orvel/help.rtf")
         self.assertEqual(own.stat().st_uid, int(root.run("id", "--user", "ida")))
-        self.assertEqual(sorted(path.name for path in (root / "usr/libexec/orvel").iterdir()), ["orvel", "orvel-cli"])
+        self.assertEqual(sorted(path.name for path in (root / "usr/libexec/orvel").iterdir()), ["orvel", "orvel-cli", "own-folder.sh"])
 
     def test_a_double_click_opens_the_test(self):
         self.give_settings("ida", "Ida Lund")
@@ -181,7 +181,12 @@ class RemovedPackageTest(unittest.TestCase):
 
     def test_nothing_stays_behind(self):
         root.run("dpkg", "--purge", "orvel")
-        self.assertEqual([name for name in DebianPackageTest.packaged if (root / name).is_file()], [])
+        packaged = DebianPackageTest.packaged
+        self.assertIn("/usr/bin/orvel", packaged)
+        self.assertEqual([name for name in packaged if (root / name).is_file()], [])
+        own = [name for name in packaged if name.endswith("/orvel") and not name.startswith("/usr/bin/")]
+        self.assertEqual(sorted(own), ["/usr/libexec/orvel", "/usr/libexec/orvel/orvel", "/usr/share/doc/orvel", "/usr/share/orvel"])
+        self.assertEqual([name for name in own if (root / name).exists()], [])
         self.assertTrue((root / "home/ida").is_dir())
 
 

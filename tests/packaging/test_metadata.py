@@ -13,6 +13,7 @@ import tempfile
 import unittest
 
 PACKAGE, PROGRAM, COMMAND_LINE, VERSION = (sys.argv.pop(1) for _ in range(4))
+README = (pathlib.Path(__file__).resolve().parents[2] / "packaging/README.txt.in").read_text(encoding="utf-8")
 COMMANDS = ["results", "check", "report", "export", "listing", "dump", "build", "text"]
 
 
@@ -58,7 +59,17 @@ class MetadataTest(unittest.TestCase):
 
     def test_the_changelog_begins_with_this_version(self):
         changes = gzip.decompress((self.share / "doc/orvel/changelog.gz").read_bytes()).decode("utf-8")
-        self.assertTrue(changes.startswith(f"# Changelog\n\n## {VERSION}, "), changes[:40])
+        metainfo = (self.share / "metainfo/org.example.orvel.metainfo.xml").read_text(encoding="utf-8")
+        day = re.search(r'<release version="[^"]*" date="([^"]*)"', metainfo).group(1)
+        self.assertTrue(changes.startswith(f"# Changelog\n\n## {VERSION}, {day}\n"), changes[:40])
+
+    def test_the_package_asks_for_what_the_programs_load_and_the_archives_page_for_the_same(self):
+        needed = set(re.findall(r"(?:^|, )([a-z0-9.+-]+)", output_of("dpkg-deb", "--field", PACKAGE, "Depends").strip()))
+        for package in ("libqt6widgets6", "libqt6printsupport6", "libqt6gui6", "libqt6svg6", "fonts-liberation", "fonts-dejavu-core"):
+            self.assertIn(package, needed)
+        named = re.search(r"install the packages\n\n(.*?)\n\n", README, re.DOTALL).group(1).split()
+        self.assertEqual(set(named) - needed, set())
+        self.assertIn("libqt6svg6", named)
 
     def test_the_desktop_file_is_valid(self):
         self.assertEqual(self.accepts("desktop-file-validate", self.share / "applications/org.example.orvel.desktop"), "")

@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -117,6 +118,9 @@ bool TakeBox(const QString& folder, const std::function<void()>& command) {
 
 bool TakeBoxes(QWidget& centerPivot, const QString& folder) {
     auto* autoFill = centerPivot.findChild<QPushButton*>("cmdBtnAutoFill");
+    // As somebody would who fills in: the distances of the example are its own.
+    centerPivot.findChild<QLineEdit*>("txtBoxDistanceToFirstGuage")->setText("30");
+    centerPivot.findChild<QLineEdit*>("txtBoxGuageSpacing")->setText("20");
     // Without it the check has something to say.
     Program().centerPivotTest.EndGunRadius = "";
     return TakeBox(folder, [autoFill] { autoFill->click(); }) &&
