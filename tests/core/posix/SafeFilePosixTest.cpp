@@ -339,7 +339,15 @@ TEST_P(SafeFileOnPosix, WritesADeviceStraight) {
     }
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_EQ(KindOfFile("/dev/null"), FileKind::Other);
     EXPECT_EQ(folder.Names(), (Names{"full", "null"}));
+}
+
+TEST_P(SafeFileOnPosix, LinksThatLeadToEachOtherAreRefused) {
+    fs::create_symlink("b", folder / "a");
+    fs::create_symlink("a", folder / "b");
+    EXPECT_THROW(Replace(folder / "a", "new"), FileError);
+    EXPECT_EQ(folder.Names(), (Names{"a", "b"}));
 }
 
 TEST_P(SafeFileOnPosix, WritesAPipeStraight) {
