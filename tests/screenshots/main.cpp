@@ -141,11 +141,17 @@ int main(int argc, char** argv) {
     const QTemporaryDir programDirectory;
     FillSettings(programDirectory.path().toStdString());
     QFile::copy(ORVEL_HELP, programDirectory.filePath("help.rtf"));
+    // What is typed for a picture is kept beside the test.
+    const auto copyOf = [&programDirectory](const QString& example) {
+        const QString copy = programDirectory.filePath(example);
+        QFile::copy(ORVEL_EXAMPLES "/" + example, copy);
+        return copy.toStdString();
+    };
 
     ui::Desktop desktop;
     ui::MainWindow mainWindow(desktop);
     mainWindow.Load();
-    mainWindow.OpenGivenFile(ORVEL_EXAMPLES "/pivot-1978.cpd");
+    mainWindow.OpenGivenFile(copyOf("pivot-1978.cpd"));
     ui::SplashWindow splash([] {});
     ui::AboutDialog about(nullptr);
     ui::UserDataDialog userData(nullptr);
@@ -161,7 +167,7 @@ int main(int argc, char** argv) {
     }
     ui::CenterPivotDataDialog centerPivot(nullptr, desktop);
     const bool areTaken = TakePages(centerPivot, arguments.at(1)) && TakeBoxes(centerPivot, arguments.at(1));
-    mainWindow.OpenGivenFile(ORVEL_EXAMPLES "/solid-set-1997.ssd");
+    mainWindow.OpenGivenFile(copyOf("solid-set-1997.ssd"));
     ui::SolidSetDataDialog solidSet(nullptr, desktop);
     return areTaken && TakePages(solidSet, arguments.at(1)) ? 0 : 1;
 }
