@@ -121,7 +121,8 @@ void AddKind(CLI::App& command, Options& options) {
 
 // What every command takes, whether it has a use for it or not.
 void AddSurroundings(CLI::App& command, Options& options) {
-    AddPath(command, "--program-dir", "Where user.usr and soil.dat are (default: ORVEL_PROGRAM_DIR, else the program's folder)",
+    AddPath(command, "--program-dir",
+            "Where user.usr and soil.dat are (default: ORVEL_PROGRAM_DIR, else the program's folder)",
             options.programDirectory)
         ->type_name("FOLDER")
         ->check(Check(NoFolder));

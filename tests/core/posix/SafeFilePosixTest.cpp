@@ -3,6 +3,7 @@
 #include "core/SafeFile.h"
 
 #include "core/RunTimeError.h"
+#include "tests/core/ReadFailures.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TestFiles.h"
@@ -424,14 +425,7 @@ TEST(SafeFileReadingOnPosix, SaysWhatFailed) {
     fs::create_symlink("none", folder / "link");
     const AsOrdinaryUser user(folder.Path());
     fs::permissions(folder / "file", fs::perms::owner_write);
-
-    struct Case {
-        fs::path path;
-        int number;
-        const char* what;
-    };
-
-    const std::array<Case, 7> cases = {{
+    testing::ExpectReadFailures({
         {folder / "none", 53, "cannot open: No such file or directory"},
         {folder / "link", 53, "cannot open: No such file or directory"},
         {"", 53, "cannot open: No such file or directory"},
@@ -439,16 +433,7 @@ TEST(SafeFileReadingOnPosix, SaysWhatFailed) {
         {folder / "file/x", 76, "cannot open: Not a directory"},
         {folder / "file", 70, "cannot open: Permission denied"},
         {folder.Path(), 75, "cannot read: Is a directory"},
-    }};
-    for (const Case& one : cases) {
-        try {
-            (void)ReadFile(one.path);
-            ADD_FAILURE() << one.path;
-        } catch (const FileError& error) {
-            EXPECT_EQ(error.Number(), one.number) << one.path;
-            EXPECT_STREQ(error.what(), one.what) << one.path;
-        }
-    }
+    });
 }
 
 } // namespace

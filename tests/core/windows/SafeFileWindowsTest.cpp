@@ -4,6 +4,7 @@
 #include "core/SafeFile.h"
 #include "core/windows/Handle.h"
 #include "core/windows/TemporaryFile.h"
+#include "tests/core/ReadFailures.h"
 #include "tests/core/TemporaryFilesFixture.h"
 #include "tests/support/LogicTest.h"
 
@@ -132,30 +133,14 @@ TEST(SafeFileReadingOnWindows, SaysWhatFailed) {
     const TemporaryFolder folder;
     PutContents(folder / "file", "x");
     const Handle busy = OpenExisting(folder / "file", GENERIC_READ, kSharedWithNone);
-
-    struct Case {
-        fs::path path;
-        int number;
-        const char* what;
-    };
-
-    const std::array<Case, 6> cases = {{
+    testing::ExpectReadFailures({
         {folder / "none", 53, "cannot open: No such file or directory"},
         {"", 53, "cannot open: No such file or directory"},
         {folder / "none/x", 76, "cannot open: No such file or directory"},
         {folder / "file/x", 76, "cannot open: No such file or directory"},
         {folder / "file", 70, "cannot open: Permission denied"},
         {folder.Path(), 75, "cannot read: Is a directory"},
-    }};
-    for (const Case& one : cases) {
-        try {
-            (void)ReadFile(one.path);
-            ADD_FAILURE() << one.path;
-        } catch (const FileError& error) {
-            EXPECT_EQ(error.Number(), one.number) << one.path;
-            EXPECT_STREQ(error.what(), one.what) << one.path;
-        }
-    }
+    });
 }
 
 TEST(SystemErrorOnWindows, HasTheNumberOfItsReason) {
