@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QVariant>
+#include <functional>
 
 // The linker leaves out the resources of a static library that nobody names. The macro wants no namespace
 // around it.
@@ -48,21 +49,24 @@ private:
     QIcon lines;
 };
 
-} // namespace
-
-QIcon SharedIcon(const QString& file) {
-    NameResources();
-    const QByteArray name = "icon of " + file.toUtf8();
+QIcon MadeOnce(const QByteArray& name, const std::function<QIcon()>& make) {
     QVariant icon = qApp->property(name);
     if (!icon.isValid()) {
-        icon = QIcon(file);
+        icon = make();
         qApp->setProperty(name, icon);
     }
     return icon.value<QIcon>();
 }
 
+} // namespace
+
+QIcon SharedIcon(const QString& file) {
+    NameResources();
+    return MadeOnce("icon of " + file.toUtf8(), [&] { return QIcon(file); });
+}
+
 QIcon LineIcon(const QString& file) {
-    return QIcon(new LineIconEngine(SharedIcon(file)));
+    return MadeOnce("lines of " + file.toUtf8(), [&] { return QIcon(new LineIconEngine(SharedIcon(file))); });
 }
 
 QIcon ProgramIcon() {

@@ -13,6 +13,8 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <chrono>
+#include <cstdlib>
 #include <map>
 #include <set>
 
@@ -91,6 +93,14 @@ std::vector<std::string> WidgetTest::TabOrder(QWidget& window) {
         }
     }
     return names;
+}
+
+int WidgetTest::RunToItsEnd() {
+    // It goes with this call: else it would end whatever runs later.
+    QTimer patience;
+    QObject::connect(&patience, &QTimer::timeout, [] { QApplication::exit(EXIT_FAILURE); });
+    patience.start(std::chrono::seconds(20));
+    return QApplication::exec();
 }
 
 void WidgetTest::ExpectReachable(const QWidget& window) {

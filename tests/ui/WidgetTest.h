@@ -39,6 +39,9 @@ protected:
     // The object names of the controls that Tab goes through, from the first one to the last.
     static std::vector<std::string> TabOrder(QWidget& window);
 
+    // Runs the application until it ends; its status, or a failure's when it does not for long.
+    static int RunToItsEnd();
+
     // Fails for two mnemonics that are the same, for a control that takes the focus without a name for screen
     // readers, and for two with the same name.
     static void ExpectReachable(const QWidget& window);
