@@ -92,11 +92,7 @@ RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent) {
     QFont font(kReportFont);
     font.setPointSize(kReportFontPoints);
     setFont(font);
-    // Paper, in every theme: the marks' colours, and those of a document, are made for it.
-    QPalette paper;
-    paper.setColor(QPalette::Base, Qt::white);
-    paper.setColor(QPalette::Text, Qt::black);
-    setPalette(paper);
+    LookLikePaper();
     ShowDocument(NewDocument());
     // The documents of word processors do not speak HTML.
     setAcceptRichText(false);
@@ -368,6 +364,24 @@ void RichTextEdit::WrapLines() {
         setLineWrapColumnOrWidth(report);
     } else {
         setLineWrapMode(WidgetWidth);
+    }
+}
+
+void RichTextEdit::changeEvent(QEvent* event) {
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        LookLikePaper();
+    }
+}
+
+void RichTextEdit::LookLikePaper() {
+    // Where the theme has paper there is nothing to do, and the toolkit draws the scroll bars of all windows
+    // with the pictures it has.
+    if (palette().color(QPalette::Base) != Qt::white || palette().color(QPalette::Text) != Qt::black) {
+        QPalette paper;
+        paper.setColor(QPalette::Base, Qt::white);
+        paper.setColor(QPalette::Text, Qt::black);
+        setPalette(paper);
     }
 }
 

@@ -50,12 +50,15 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    // White and black in every theme: the marks' colours, and those of a document, are made for that.
+    void LookLikePaper();
     // The text, and where it stands in the document.
     struct Content {
         std::string text;
