@@ -87,8 +87,11 @@ protected:
                                         });
         EXPECT_EQ(run.report, "saved");
         EXPECT_GT(looks, 4) << "of the temporary file";
+        Permissions given = PermissionsOf(file);
+        // An ordinary user may look into it only then.
+        EXPECT_EQ(::chmod(file.c_str(), 0600), 0);
         EXPECT_EQ(Contents(file), "new");
-        return PermissionsOf(file);
+        return given;
     }
 
     TemporaryFolder folder;
