@@ -26,8 +26,7 @@ void ShowPassingLine(std::string_view text);
 // A UTF-8 text as a part of one line: line ends and other control characters as "\n", "\r", "\t" or
 // "\u001b", what is not UTF-8 as U+FFFD.
 [[nodiscard]] std::string OnOneLine(std::string_view utf8);
-// "orvel-cli: subject: reason" as one line of UTF-8 on standard error. Both are UTF-8 and
-// go through OnOneLine.
+// "orvel-cli: subject: reason" as one line on standard error. Both are UTF-8 and go through OnOneLine.
 void PrintComplaint(std::string_view subject, std::string_view reason);
 
 // Replaces a file as a whole. Raises CommandError.

@@ -32,6 +32,11 @@ def user_settings(name="Ida Lund", folder=""):
     return b"".join(text(field, 50) for field in [name, *others, folder]) + b"\xff\xff"
 
 
+def version_text():
+    """As the windows show it."""
+    return "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
+
+
 def command_line(*arguments):
     """What the command line writes."""
     return subprocess.run([COMMAND_LINE, *map(str, arguments)], capture_output=True, check=True).stdout

@@ -7,11 +7,8 @@ Needs the Debian packages of desktop.py.
 
 import collections
 import shutil
-import subprocess
 
-from program import EXAMPLES, PROGRAM, ProgramTest, desktop, main
-
-VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
+from program import EXAMPLES, ProgramTest, desktop, main, version_text
 
 CONTROLS = {"push button", "check box", "radio button", "text", "combo box", "table", "page tab", "menu item", "label",
             "tool bar", "list", "image"}
@@ -175,10 +172,10 @@ class AccessibilityTest(ProgramTest):
 
     def test_the_splash_and_the_main_window(self):
         self.program()
-        splash = desktop.find(VERSION, "label").get_parent()
+        splash = desktop.find(version_text(), "label").get_parent()
         self.expect(splash, {})
         desktop.wait_for_text("Open or Create New Data File to Begin")
-        desktop.wait_until_gone(VERSION, "label")
+        desktop.wait_until_gone(version_text(), "label")
         self.expect(desktop.find("ORVEL", "frame"), {
             "radio button": ["Center Pivot System", "Solid Set System"],
             "push button": ["Edit Data", "New Data File", "Open Existing Data File", "Generate Report"]}, MENUS)

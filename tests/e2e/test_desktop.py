@@ -7,9 +7,8 @@ import os
 import struct
 import subprocess
 
-from program import EXAMPLES, PROGRAM, ProgramTest, command_line, desktop, main, pivot_to_type, text, user_settings
-
-VERSION = "Version " + subprocess.run([PROGRAM, "--version"], capture_output=True, text=True, check=True).stdout.split()[1]
+from program import (EXAMPLES, PROGRAM, ProgramTest, command_line, desktop, main, pivot_to_type, text, user_settings,
+                     version_text)
 
 
 class DesktopTest(ProgramTest):
@@ -49,7 +48,7 @@ class DesktopTest(ProgramTest):
         desktop.press("Yes")
         desktop.wait_until_gone("Center Pivot Data Entry", "dialog")
         desktop.choose("Help", "About ORVEL")
-        desktop.wait_for_text(VERSION)
+        desktop.wait_for_text(version_text())
         desktop.press("OK")
         desktop.keys("ctrl+q")
         self.assertEqual(desktop.status(), 0)
@@ -304,7 +303,7 @@ class DesktopTest(ProgramTest):
         self.settings.unlink()
         self.program()
         desktop.find("User Settings Error", "alert")
-        self.assertTrue(desktop.is_there(VERSION, "label"), "the splash window is still shown")
+        self.assertTrue(desktop.is_there(version_text(), "label"), "the splash window is still shown")
         desktop.press("OK")
         desktop.wait_for_text("Open or Create New Data File to Begin")
         self.assertEqual(self.settings.read_bytes(), b" " * 300 + text(str(self.folder), 50) + b"\0\0")

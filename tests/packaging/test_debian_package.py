@@ -21,13 +21,11 @@ if __name__ == "__main__":
     own_mounts()
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "e2e"))
-from desktop import Desktop  # noqa: E402  pylint: disable=wrong-import-position
 PACKAGE, COMMAND_LINE = (sys.argv.pop(1) for _ in range(2))
 BELOW = os.environ.get("ORVEL_PACKAGE_ROOT", "/")
 sys.argv[1:1] = [PACKAGE, COMMAND_LINE]
-from program import EXAMPLES, user_settings, wait_for_a_calm_second  # noqa: E402  pylint: disable=wrong-import-position
+from program import EXAMPLES, desktop, user_settings, wait_for_a_calm_second  # noqa: E402  pylint: disable=wrong-import-position
 
-desktop = Desktop()
 root = CleanRoot(BELOW)
 
 
