@@ -21,6 +21,11 @@ bool IsSameName(Name one, Name other) {
 
 } // namespace
 
+std::filesystem::path FolderOf(const std::filesystem::path& path) {
+    const std::filesystem::path folder = path.parent_path();
+    return folder.empty() ? "." : folder;
+}
+
 std::string FileNameText(const std::filesystem::path& path) {
     return PathText(path.filename());
 }

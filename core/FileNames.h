@@ -15,6 +15,9 @@ namespace orvel {
 
 [[nodiscard]] bool FolderExists(const std::filesystem::path& path);
 
+// The folder that a name is in; "." for a bare name.
+[[nodiscard]] std::filesystem::path FolderOf(const std::filesystem::path& path);
+
 // The file's name without its folder, in the program's code page.
 [[nodiscard]] std::string FileNameText(const std::filesystem::path& path);
 

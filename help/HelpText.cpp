@@ -18,12 +18,13 @@ constexpr std::string_view kEntry = "- ";
 constexpr std::string_view kPicture = "![";
 
 constexpr Color kHeadingColor{.red = 0x2E, .green = 0x6B, .blue = 0x1F};
-constexpr int kTitleSize = 36; // in half points, as all sizes here
-constexpr int kSectionSize = 28;
-constexpr int kTextSize = 21;
-constexpr int kFormulaSize = 20;
-constexpr int kGapSize = 10;
-constexpr int kGapBetweenEntries = 6;
+constexpr int kTitleSize = 32; // in half points, as all sizes here
+constexpr int kSectionSize = 24;
+constexpr int kTextSize = 20;
+constexpr int kFormulaSize = 19;
+constexpr int kGapAboveSection = 14;
+constexpr int kGapSize = 8;
+constexpr int kSmallGap = 4;
 
 CharacterFormat Format(int halfPoints) {
     CharacterFormat format;
@@ -146,6 +147,14 @@ Paragraph Gap(int size) {
     return paragraph;
 }
 
+int GapBetween(std::string_view before, std::string_view block) {
+    if (block.starts_with(kSection)) {
+        return kGapAboveSection;
+    }
+    const bool isWithinList = before.starts_with(kEntry) && block.starts_with(kEntry);
+    return isWithinList || before.starts_with('#') ? kSmallGap : kGapSize;
+}
+
 // The name that a page's own links give a section.
 std::string Anchor(std::string_view section) {
     std::string anchor;
@@ -167,14 +176,14 @@ RichDocument HelpDocument(std::string_view source) {
     RichDocument document;
     std::vector<Paragraph>& paragraphs = document.paragraphs;
     paragraphs.clear();
-    bool isBehindEntry = false;
-    for (const std::string& block : Blocks(source)) {
+    std::string_view before;
+    const std::vector<std::string> blocks = Blocks(source);
+    for (const std::string& block : blocks) {
         if (block.starts_with(kPicture)) {
             continue;
         }
-        const bool isEntry = block.starts_with(kEntry);
         if (!paragraphs.empty()) {
-            paragraphs.push_back(Gap(isEntry && isBehindEntry ? kGapBetweenEntries : kGapSize));
+            paragraphs.push_back(Gap(GapBetween(before, block)));
         }
         if (block.starts_with(kTitle)) {
             paragraphs.push_back(HeadingParagraph(block.substr(kTitle.size()), kTitleSize));
@@ -183,7 +192,7 @@ RichDocument HelpDocument(std::string_view source) {
         } else {
             paragraphs.push_back(TextParagraph(block));
         }
-        isBehindEntry = isEntry;
+        before = block;
     }
     return document;
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/SafeFile.h"
 
+#include "core/FileNames.h"
 #include "core/RunTimeError.h"
 #include "core/posix/Descriptor.h"
 #include "core/posix/GivePermissions.h"
@@ -19,11 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kMostLinks = 40;
-
-fs::path FolderOf(const fs::path& path) {
-    const fs::path folder = path.parent_path();
-    return folder.empty() ? fs::path(".") : folder;
-}
 
 // The failure of a call that looked for `path`: when the folder is what is missing, the error says so.
 [[noreturn]] void FailedAt(const fs::path& path, const std::string& step) {

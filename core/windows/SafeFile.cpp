@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "core/SafeFile.h"
 
+#include "core/FileNames.h"
 #include "core/windows/Handle.h"
 #include "core/windows/TemporaryFile.h"
 
@@ -14,11 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kOpenForWriting = "open for writing";
-
-fs::path FolderOf(const fs::path& path) {
-    const fs::path folder = path.parent_path();
-    return folder.empty() ? fs::path(".") : folder;
-}
 
 void SetPosition(const Handle& file, std::size_t position) {
     LARGE_INTEGER distance{};

@@ -43,7 +43,7 @@ def command_line(*arguments):
 
 
 def pivot_to_type():
-    """A center-pivot test as a field sheet has it, and its readings: cups 20 feet apart."""
+    """A center-pivot test as it is written down in the field, and its readings: cups 20 feet apart."""
     test = json.loads((EXAMPLES / "pivot-1978.json").read_text(encoding="utf-8"))
     readings = [cup["Volume"] for cup in test["Gauges"]]
     test |= {"DistanceToFirstGuage": "20", "GuageSpacing": "20",

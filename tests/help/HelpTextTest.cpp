@@ -73,6 +73,22 @@ TEST(HelpText, HeadingsAreLargerAndInColour) {
     EXPECT_TRUE(title.color && section.color && !text.color);
 }
 
+TEST(HelpText, ASectionIsNearerToItsTextThanToWhatIsAboveIt) {
+    const RichDocument document = HelpDocument("text\n\n## Section\n\ntext\n\ntext\n\n- entry\n- entry");
+    const auto gap = [&](std::size_t paragraph) {
+        return document.paragraphs.at(paragraph).runs.at(0).format.halfPoints;
+    };
+    const int aboveSection = gap(1);
+    const int belowSection = gap(3);
+    const int betweenTexts = gap(5);
+    const int aboveList = gap(7);
+    const int withinList = gap(9);
+    EXPECT_GT(aboveSection, betweenTexts);
+    EXPECT_GT(betweenTexts, belowSection);
+    EXPECT_EQ(aboveList, betweenTexts);
+    EXPECT_EQ(withinList, belowSection);
+}
+
 TEST(HelpText, AMarkThatNothingEndsIsAnError) {
     for (const char* source : {"a **b", "a *b", "a `b", "- a **b\n- c**"}) {
         EXPECT_THROW((void)HelpDocument(source), std::invalid_argument) << source;

@@ -47,6 +47,11 @@ class FormulasTest(unittest.TestCase):
     def expect(self, figure, terms, expected):
         self.assertTrue(math.isclose(value_of(formula(figure), terms), expected, rel_tol=2e-5), figure)
 
+    def time_for_full_circle(self):
+        return value_of(formula("Time For Full Circle"), {
+            "distance to last tower": self.number("DistanceToTower"), "feet of travel": self.number("TravelSpeedFeet"),
+            "minutes": self.number("TravelSpeedMinutes"), "seconds": self.number("TravelSpeedSeconds")})
+
     def test_depths(self):
         self.expect("Depth", {"volume": self.test["Gauges"][0]["Volume"], "D": self.number("GuageDiameter")}, self.depths[0])
         self.expect("Average Depth", {"sum of the depths": sum(self.depths), "number of cups": len(self.depths)},
@@ -69,11 +74,9 @@ class FormulasTest(unittest.TestCase):
     def test_acres_flow_and_efficiency(self):
         radius = sum(map(self.number, ("DistanceToTower", "LengthOverhang", "EndGunRadius")))
         self.expect("Irrigated Acres", {"r": radius}, self.results["IrrigatedAcres"])
-        travel = self.number("TravelSpeedMinutes") / 60 + self.number("TravelSpeedSeconds") / 3600
-        hours = 2 * math.pi * self.number("DistanceToTower") / (self.number("TravelSpeedFeet") / travel)
         self.expect("Calculated Flow Rate",
                     {"acres": self.results["IrrigatedAcres"], "average depth": self.results["AverageDepth"],
-                     "hours per circle": hours}, self.results["CalculatedFlowRate"])
+                     "time for full circle": self.time_for_full_circle()}, self.results["CalculatedFlowRate"])
         self.expect("Water Application Efficiency",
                     {"calculated flow rate": self.results["CalculatedFlowRate"],
                      "entered flow rate": self.number("MeasuredFlowRate")}, 100 * self.results["ApplicationEfficiency"])
@@ -88,15 +91,18 @@ class FormulasTest(unittest.TestCase):
         self.expect("Application Rate", {"average depth": solid["SolidSetAverageDepth"], "minutes": minutes},
                     solid["SolidSetApplicationRate"])
 
-    def test_the_timer_table(self):
+    def test_the_system_length_and_the_timer_table(self):
         report = subprocess.run([COMMAND_LINE, "report", PROJECT / "examples/pivot-1978.cpd"], check=True, capture_output=True,
-                                text=True).stdout
-        table = re.findall(r"^ +(\d+)\*? +(\d+\.\d\d) +(\d+\.\d\d)$", report.replace("\r", ""), re.MULTILINE)
+                                text=True).stdout.replace("\r", "")
+        length = value_of(formula("System Length"), {"distance to last tower": self.number("DistanceToTower"),
+                                                     "overhang": self.number("LengthOverhang")})
+        self.assertIn(f"System Length {length:,.0f}\n", report)
+        table = re.findall(r"^ +(\d+)\*? +(\d+\.\d\d) +(\d+\.\d\d)$", report, re.MULTILINE)
         self.assertEqual(len(table), 10)
         for setting, hours, depth in table:
-            terms = {"hours at 100 %": float(table[0][1]), "average depth": self.results["AverageDepth"],
+            terms = {"time for full circle": self.time_for_full_circle(), "average depth": self.results["AverageDepth"],
                      "tested setting": self.number("PercentTimer"), "setting": float(setting)}
-            self.assertAlmostEqual(value_of(formula("Percent Timer Analysis"), terms), float(hours), delta=0.06)
+            self.assertAlmostEqual(value_of(formula("Percent Timer Analysis"), terms), float(hours), delta=0.006)
             self.assertAlmostEqual(value_of(formula("Percent Timer Analysis", 1), terms), float(depth), delta=0.006)
 
 

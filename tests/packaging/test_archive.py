@@ -28,7 +28,7 @@ class ArchiveTest(unittest.TestCase):
     def test_it_is_one_folder_with_everything(self):
         self.assertEqual([path.name for path in self.place.iterdir()], [self.folder.name])
         self.assertEqual(sorted(path.name for path in self.folder.iterdir()),
-                         ["LICENSE", "README.txt", "completion", "examples", "help.rtf", "man", "orvel", "orvel-cli"])
+                         ["COPYRIGHT", "LICENSE", "README.txt", "completion", "examples", "help.rtf", "man", "orvel", "orvel-cli"])
         self.assertIn("libqt6widgets6", (self.folder / "README.txt").read_text(encoding="utf-8"))
 
     def test_the_folder_is_the_program_directory_wherever_it_is(self):

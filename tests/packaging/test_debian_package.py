@@ -44,7 +44,7 @@ class DebianPackageTest(unittest.TestCase):
             root.run("apt-get", "install", "--yes", "--quiet", "--no-install-recommends", "procps", "libglib2.0-bin",
                      "shared-mime-info", "desktop-file-utils")
         cls.packaged = set(root.run("dpkg", "--listfiles", "orvel").splitlines()) - before - {"/.", "/usr"}
-        for user in ("ida", "ola"):
+        for user in ("orvel-ida", "orvel-ola"):
             root.run("useradd", "--create-home", "--user-group", user)
             field = root / f"home/{user}/north field.cpd"
             field.write_bytes((EXAMPLES / "pivot-1978.cpd").read_bytes())
@@ -55,7 +55,7 @@ class DebianPackageTest(unittest.TestCase):
         return {"/" + str(path.relative_to(root.path)) for path in (root / "usr").rglob("*")}
 
     def setUp(self):
-        root.run("rm", "-rf", "/home/ida/.local", "/home/ola/.local")
+        root.run("rm", "-rf", "/home/orvel-ida/.local", "/home/orvel-ola/.local")
 
     def own_folder(self, user):
         return root / f"home/{user}/.local/share/orvel"
@@ -92,7 +92,7 @@ class DebianPackageTest(unittest.TestCase):
         self.assertEqual(desktop.status(), 0)
 
     def test_a_new_user_opens_a_file_and_has_a_folder_of_their_own(self):
-        self.start("ida", "orvel", "north field.cpd")
+        self.start("orvel-ida", "orvel", "north field.cpd")
         self.wait_for_window("User Settings Error")
         desktop.keys("Return")
         self.wait_for_window("ORVEL")
@@ -111,52 +111,53 @@ class DebianPackageTest(unittest.TestCase):
         desktop.keys("Escape")
         self.end_program()
 
-        own = self.own_folder("ida")
+        own = self.own_folder("orvel-ida")
         self.assertEqual(sorted(path.name for path in own.iterdir()), ["help.rtf", "soil.dat", "user.usr"])
         self.assertEqual(str((own / "help.rtf").readlink()), "/usr/share/orvel/help.rtf")
-        self.assertEqual(own.stat().st_uid, int(root.run("id", "--user", "ida")))
+        self.assertEqual(own.stat().st_uid, int(root.run("id", "--user", "orvel-ida")))
         self.assertEqual(sorted(path.name for path in (root / "usr/libexec/orvel").iterdir()), ["orvel", "orvel-cli", "own-folder.sh"])
 
     def test_a_double_click_opens_the_test(self):
-        self.give_settings("ida", "Ida Lund")
-        kind = root.run("gio", "info", "--attributes=standard::content-type", "north field.cpd", user="ida")
+        self.give_settings("orvel-ida", "Ida Lund")
+        kind = root.run("gio", "info", "--attributes=standard::content-type", "north field.cpd", user="orvel-ida")
         self.assertIn("application/x-orvel-center-pivot", kind)
-        self.assertIn("org.example.orvel.desktop", root.run("gio", "mime", "application/x-orvel-center-pivot", user="ida"))
-        self.assertIn("org.example.orvel.desktop", root.run("gio", "mime", "application/x-orvel-solid-set", user="ida"))
+        self.assertIn("org.example.orvel.desktop", root.run("gio", "mime", "application/x-orvel-center-pivot", user="orvel-ida"))
+        self.assertIn("org.example.orvel.desktop", root.run("gio", "mime", "application/x-orvel-solid-set", user="orvel-ida"))
         # What is opened so is nobody's child.
-        self.addCleanup(root.run, "pkill", "-x", "orvel", user="ida")
-        self.start("ida", "sh", "-c", "gio open 'north field.cpd'; exec sleep 600")
+        self.addCleanup(root.run, "pkill", "-x", "orvel", user="orvel-ida")
+        self.start("orvel-ida", "sh", "-c", "gio open 'north field.cpd'; exec sleep 600")
         self.wait_for_window("ORVEL")
         desktop.keys("alt+g")
         self.wait_for_window("Report")
 
     def test_each_user_has_settings_of_their_own(self):
-        self.give_settings("ida", "Ida Lund")
-        own = self.give_settings("ola", "Ola Berg")
-        for user, name, other in (("ida", "Ida Lund", "Ola Berg"), ("ola", "Ola Berg", "Ida Lund")):
+        self.give_settings("orvel-ida", "Ida Lund")
+        own = self.give_settings("orvel-ola", "Ola Berg")
+        for user, name, other in (("orvel-ida", "Ida Lund", "Ola Berg"), ("orvel-ola", "Ola Berg", "Ida Lund")):
             report = root.run("orvel-cli", "report", "north field.cpd", user=user)
             self.assertIn(name, report)
             self.assertNotIn(other, report)
-        elsewhere = root.run("orvel-cli", "report", "--program-dir", "/tmp", "north field.cpd", user="ola")
+        elsewhere = root.run("orvel-cli", "report", "--program-dir", "/tmp", "north field.cpd", user="orvel-ola")
         self.assertNotIn("Ola Berg", elsewhere)
         self.assertFalse((own / "soil.dat").exists(), "the command line writes no settings")
 
     def test_help_of_their_own_stays(self):
-        own = self.give_settings("ola", "Ola Berg")
+        own = self.give_settings("orvel-ola", "Ola Berg")
         (own / "Help.RTF").write_bytes(rb"{\rtf1 Mine}")
-        self.start("ola", "orvel")
+        self.start("orvel-ola", "orvel")
         self.end_program()
         self.assertEqual([path.name for path in own.iterdir() if path.suffix.lower() == ".rtf"], ["Help.RTF"])
 
     def test_a_folder_that_cannot_be_made_is_told(self):
         # Nobody is to make anything there: not even a folder is where a file is.
-        (root / "home/ola/.local").write_bytes(b"")
-        self.open("ola", "orvel")
+        (root / "home/orvel-ola/.local").write_bytes(b"")
+        self.open("orvel-ola", "orvel")
         # A box that says so, then the one of the error: both have the splash window's title.
         desktop.wait_for(lambda: len(self.windows("ORVEL")) == 2, "a box in front of the splash window")
-        while desktop.program.poll() is None:
-            desktop.keys("Return")
-            time.sleep(0.2)
+        for _ in range(100):
+            if desktop.program.poll() is None:
+                desktop.keys("Return")
+                time.sleep(0.2)
         self.assertEqual(desktop.status(), 1)
 
     def test_installed_and_built_command_line_say_the_same(self):
@@ -164,7 +165,7 @@ class DebianPackageTest(unittest.TestCase):
         built = subprocess.run([COMMAND_LINE, "report", *arguments, EXAMPLES / "pivot-1978.cpd"], check=True,
                                capture_output=True).stdout
         installed = subprocess.run(
-            root.command("ida", "orvel-cli", "report", *arguments, "/usr/share/doc/orvel/examples/pivot-1978.cpd"),
+            root.command("orvel-ida", "orvel-cli", "report", *arguments, "/usr/share/doc/orvel/examples/pivot-1978.cpd"),
             check=True, capture_output=True).stdout
         self.assertEqual(installed, built)
 
@@ -185,7 +186,7 @@ class RemovedPackageTest(unittest.TestCase):
         own = [name for name in packaged if name.endswith("/orvel") and not name.startswith("/usr/bin/")]
         self.assertEqual(sorted(own), ["/usr/libexec/orvel", "/usr/libexec/orvel/orvel", "/usr/share/doc/orvel", "/usr/share/orvel"])
         self.assertEqual([name for name in own if (root / name).exists()], [])
-        self.assertTrue((root / "home/ida").is_dir())
+        self.assertTrue((root / "home/orvel-ida").is_dir())
 
 
 def load_tests(loader, _tests, _pattern):

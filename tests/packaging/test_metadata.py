@@ -13,7 +13,7 @@ import tempfile
 import unittest
 
 PACKAGE, PROGRAM, COMMAND_LINE, VERSION = (sys.argv.pop(1) for _ in range(4))
-README = (pathlib.Path(__file__).resolve().parents[2] / "packaging/README.txt.in").read_text(encoding="utf-8")
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
 COMMANDS = ["results", "check", "report", "export", "listing", "dump", "build", "text"]
 
 
@@ -63,13 +63,23 @@ class MetadataTest(unittest.TestCase):
         day = re.search(r'<release version="[^"]*" date="([^"]*)"', metainfo).group(1)
         self.assertTrue(changes.startswith(f"# Changelog\n\n## {VERSION}, {day}\n"), changes[:40])
 
-    def test_the_package_asks_for_what_the_programs_load_and_the_archives_page_for_the_same(self):
-        needed = set(re.findall(r"(?:^|, )([a-z0-9.+-]+)", output_of("dpkg-deb", "--field", PACKAGE, "Depends").strip()))
+    def test_the_package_asks_for_what_the_programs_load(self):
+        needed = re.findall(r"(?:^|, )([a-z0-9.+-]+)", output_of("dpkg-deb", "--field", PACKAGE, "Depends").strip())
         for package in ("libqt6widgets6", "libqt6printsupport6", "libqt6gui6", "libqt6svg6", "fonts-liberation", "fonts-dejavu-core"):
             self.assertIn(package, needed)
-        named = re.search(r"install the packages\n\n(.*?)\n\n", README, re.DOTALL).group(1).split()
-        self.assertEqual(set(named) - needed, set())
-        self.assertIn("libqt6svg6", named)
+
+    def test_the_pages_name_what_the_unpacked_program_needs(self):
+        wanted = {"libqt6widgets6", "libqt6printsupport6", "libqt6svg6", "fonts-liberation"}
+        for page, place in (("packaging/README.txt.in", r"install the packages\n\n(.*?)\n\n"), ("README.md", r"\(packages\s`(.*?)`\)")):
+            text = (PROJECT / page).read_text(encoding="utf-8")
+            self.assertEqual(set(re.search(place, text, re.DOTALL).group(1).split()), wanted, page)
+
+    def test_the_notices_of_what_is_compiled_into_the_programs_are_there(self):
+        notices = (self.share / "doc/orvel/copyright").read_text(encoding="utf-8")
+        for header in ("CLI/App.hpp", "nlohmann/json.hpp", "nlohmann/detail/output/serializer.hpp", "nlohmann/detail/conversions/to_chars.hpp"):
+            text = pathlib.Path("/usr/include", header).read_text(encoding="utf-8")
+            for years, owner in re.findall(r"^// .*Copyright.*?(20[0-9-]+),? (\w+ \w+)", text, re.MULTILINE):
+                self.assertIn(f" {years} {owner}", notices.replace("Bjoern", "Björn"), header)
 
     def test_the_desktop_file_is_valid(self):
         self.assertEqual(self.accepts("desktop-file-validate", self.share / "applications/org.example.orvel.desktop"), "")

@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -104,13 +105,14 @@ bool TakeViewer(ui::Desktop& desktop, const QString& folder) {
     return Take(*WindowOfName("frmShowRTF"), folder, "-Instructions");
 }
 
-// The box that a command shows, named by its title: box-Auto-Complete-Entries.png.
+// The box that a command shows, named by its title, as box-Auto-Complete-Entries.png, and answered.
 bool TakeBox(const QString& folder, const std::function<void()>& command) {
     bool isTaken = false;
     QTimer::singleShot(0, [&] {
-        QWidget* box = QApplication::activeModalWidget();
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         isTaken = box->grab().save(folder + "/box-" + box->windowTitle().replace(' ', '-') + ".png");
-        box->close();
+        box->button(box->standardButtons().testFlag(QMessageBox::Yes) ? QMessageBox::Yes : QMessageBox::Ok)
+            ->click();
     });
     command();
     return isTaken;
@@ -118,7 +120,7 @@ bool TakeBox(const QString& folder, const std::function<void()>& command) {
 
 bool TakeBoxes(QWidget& centerPivot, const QString& folder) {
     auto* autoFill = centerPivot.findChild<QPushButton*>("cmdBtnAutoFill");
-    // As somebody would who fills in: the distances of the example are its own.
+    // As somebody would who fills in; the pages show these distances then.
     centerPivot.findChild<QLineEdit*>("txtBoxDistanceToFirstGuage")->setText("30");
     centerPivot.findChild<QLineEdit*>("txtBoxGuageSpacing")->setText("20");
     // Without it the check has something to say.
@@ -166,7 +168,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     ui::CenterPivotDataDialog centerPivot(nullptr, desktop);
-    const bool areTaken = TakePages(centerPivot, arguments.at(1)) && TakeBoxes(centerPivot, arguments.at(1));
+    const bool areTaken = TakeBoxes(centerPivot, arguments.at(1)) && TakePages(centerPivot, arguments.at(1));
     mainWindow.OpenGivenFile(copyOf("solid-set-1997.ssd"));
     ui::SolidSetDataDialog solidSet(nullptr, desktop);
     return areTaken && TakePages(solidSet, arguments.at(1)) ? 0 : 1;

@@ -245,62 +245,50 @@ TEST_F(CommandKeys, ReachesEveryCommandOfTheReport) {
          }});
 }
 
-TEST_F(CommandKeys, ReachesEveryCommandOfTheCenterPivotWindow) {
-    std::filesystem::path file;
+// What both data windows have over a test of that file, which they save.
+std::vector<Command> CommandsOfADataWindow(const std::filesystem::path& file) {
     const auto isSaved = [&file](const QWidget*) { return std::filesystem::exists(file); };
     const auto remove = [&file] { std::filesystem::remove(file); };
+    return {
+        {.name = "mnuFileSave", .came = isSaved, .prepare = remove},
+        {"mnuFileDiscard", {"box [Close Data Window]"}, {Reply::No}},
+        {"mnuFileClose", {"box [Close Window]"}, {Reply::Cancel}},
+        {"mnuEditUndo", {"Ctrl+Z"}},
+        {"mnuEditCut", {"Ctrl+X"}},
+        {"mnuEditCopy", {"Ctrl+C"}},
+        {"mnueditPaste", {"Ctrl+V"}},
+        {"mnuHelpInstructions", {"view Help"}},
+        {"mnuHelpAbout", {"show frmAbout"}},
+        {"cmdBtnCloseWithoutSaving", {"box [Close Data Window]"}, {Reply::No}},
+        {"cmdBtnExitAndSave", {"box [Close Window]"}, {Reply::No}, false, isSaved, remove},
+        {.name = "cmdBtnAutoFill",
+         .said = {"box [Auto Complete Entries]"},
+         .replies = {Reply::No},
+         .page = "&Test Data"},
+    };
+}
+
+TEST_F(CommandKeys, ReachesEveryCommandOfTheCenterPivotWindow) {
+    std::filesystem::path file;
+    std::vector<Command> commands = CommandsOfADataWindow(file);
+    commands.push_back({"mnuFileSaveAs", {"save ["}, {}, true});
+    commands.push_back({"cmdBtnSaveAs", {"save ["}, {}, true});
     ExpectCommands({"frmCenterPivotData",
                     [&] {
                         file = OpenCopy(kCenterPivot, "pivot-1978.cpd");
                         return new ui::CenterPivotDataDialog(nullptr, surroundings);
                     },
-                    {
-                        {.name = "mnuFileSave", .came = isSaved, .prepare = remove},
-                        {"mnuFileSaveAs", {"save ["}, {}, true},
-                        {"mnuFileDiscard", {"box [Close Data Window]"}, {Reply::No}},
-                        {"mnuFileClose", {"box [Close Window]"}, {Reply::Cancel}},
-                        {"mnuEditUndo", {"Ctrl+Z"}},
-                        {"mnuEditCut", {"Ctrl+X"}},
-                        {"mnuEditCopy", {"Ctrl+C"}},
-                        {"mnueditPaste", {"Ctrl+V"}},
-                        {"mnuHelpInstructions", {"view Help"}},
-                        {"mnuHelpAbout", {"show frmAbout"}},
-                        {"cmdBtnSaveAs", {"save ["}, {}, true},
-                        {"cmdBtnCloseWithoutSaving", {"box [Close Data Window]"}, {Reply::No}},
-                        {"cmdBtnExitAndSave", {"box [Close Window]"}, {Reply::No}, false, isSaved, remove},
-                        {.name = "cmdBtnAutoFill",
-                         .said = {"box [Auto Complete Entries]"},
-                         .replies = {Reply::No},
-                         .page = "&Test Data"},
-                    }});
+                    commands});
 }
 
 TEST_F(CommandKeys, ReachesEveryCommandOfTheSolidSetWindow) {
     std::filesystem::path file;
-    const auto isSaved = [&file](const QWidget*) { return std::filesystem::exists(file); };
-    const auto remove = [&file] { std::filesystem::remove(file); };
     ExpectCommands({"frmSolidSetData",
                     [&] {
                         file = OpenCopy(kSolidSet, "solid-set-1997.ssd");
                         return new ui::SolidSetDataDialog(nullptr, surroundings);
                     },
-                    {
-                        {.name = "mnuFileSave", .came = isSaved, .prepare = remove},
-                        {"mnuFileDiscard", {"box [Close Data Window]"}, {Reply::No}},
-                        {"mnuFileClose", {"box [Close Window]"}, {Reply::Cancel}},
-                        {"mnuEditUndo", {"Ctrl+Z"}},
-                        {"mnuEditCut", {"Ctrl+X"}},
-                        {"mnuEditCopy", {"Ctrl+C"}},
-                        {"mnueditPaste", {"Ctrl+V"}},
-                        {"mnuHelpInstructions", {"view Help"}},
-                        {"mnuHelpAbout", {"show frmAbout"}},
-                        {"cmdBtnCloseWithoutSaving", {"box [Close Data Window]"}, {Reply::No}},
-                        {"cmdBtnExitAndSave", {"box [Close Window]"}, {Reply::No}, false, isSaved, remove},
-                        {.name = "cmdBtnAutoFill",
-                         .said = {"box [Auto Complete Entries]"},
-                         .replies = {Reply::No},
-                         .page = "&Test Data"},
-                    }});
+                    CommandsOfADataWindow(file)});
 }
 
 TEST_F(CommandKeys, ReachesEveryCommandOfTheSettingsTheViewerAndTheAboutBox) {
