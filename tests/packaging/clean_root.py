@@ -6,7 +6,7 @@ the test does. Ends with the test, whatever happens, since only the test's proce
     own_mounts()                        # once, at the very beginning of the program
     with CleanRoot("/") as root:
         root.run("dpkg", "--install", "/x.deb")
-        process = root.start("ida", "orvel")
+        desktop.open(root.command("ida", "orvel"))
 
 Needs root or sudo, as everything that installs.
 """

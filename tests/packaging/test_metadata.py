@@ -69,7 +69,7 @@ class MetadataTest(unittest.TestCase):
             self.assertIn(package, needed)
 
     def test_the_pages_name_what_the_unpacked_program_needs(self):
-        wanted = {"libqt6widgets6", "libqt6printsupport6", "libqt6svg6", "fonts-liberation"}
+        wanted = {"libqt6widgets6", "libqt6printsupport6", "libqt6svg6", "fonts-liberation", "fonts-dejavu-core"}
         for page, place in (("packaging/README.txt.in", r"install the packages\n\n(.*?)\n\n"), ("README.md", r"\(packages\s`(.*?)`\)")):
             text = (PROJECT / page).read_text(encoding="utf-8")
             self.assertEqual(set(re.search(place, text, re.DOTALL).group(1).split()), wanted, page)
@@ -78,7 +78,9 @@ class MetadataTest(unittest.TestCase):
         notices = (self.share / "doc/orvel/copyright").read_text(encoding="utf-8")
         for header in ("CLI/App.hpp", "nlohmann/json.hpp", "nlohmann/detail/output/serializer.hpp", "nlohmann/detail/conversions/to_chars.hpp"):
             text = pathlib.Path("/usr/include", header).read_text(encoding="utf-8")
-            for years, owner in re.findall(r"^// .*Copyright.*?(20[0-9-]+),? (\w+ \w+)", text, re.MULTILINE):
+            owners = re.findall(r"^// .*Copyright.*?(20[0-9-]+),? (\w+ \w+)", text, re.MULTILINE)
+            self.assertTrue(owners, header)
+            for years, owner in owners:
                 self.assertIn(f" {years} {owner}", notices.replace("Bjoern", "Björn"), header)
 
     def test_the_desktop_file_is_valid(self):
