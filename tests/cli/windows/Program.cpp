@@ -80,9 +80,17 @@ RunResult RunProgram(const Call& call) {
         start.hStdOutput = output.Get();
         start.hStdError = errors.Get();
         PROCESS_INFORMATION started{};
-        const BOOL isRunning =
-            ::CreateProcessW(fs::path(ORVEL_CLI).c_str(), command.data(), nullptr, nullptr, TRUE,
-                             CREATE_UNICODE_ENVIRONMENT, environment.data(), nullptr, &start, &started);
+        BOOL isRunning = 0;
+        // Once in some thousand starts Wine fails itself, before the program has begun.
+        constexpr int kMostTries = 3;
+        for (int tries = 0; isRunning == 0 && tries < kMostTries; ++tries) {
+            isRunning =
+                ::CreateProcessW(fs::path(ORVEL_CLI).c_str(), command.data(), nullptr, nullptr, TRUE,
+                                 CREATE_UNICODE_ENVIRONMENT, environment.data(), nullptr, &start, &started);
+            if (isRunning == 0 && ::GetLastError() != ERROR_INTERNAL_ERROR) {
+                break;
+            }
+        }
         EXPECT_NE(isRunning, 0) << ::GetLastError();
         if (isRunning == 0) {
             return result;
