@@ -12,21 +12,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path PathOfUtf8(std::string_view utf8) {
-    const std::u32string text = UnicodeOf(utf8);
-    return text;
+// INVALID_FILE_ATTRIBUTES for nothing.
+DWORD Attributes(const fs::path& path) {
+    return path.empty() ? INVALID_FILE_ATTRIBUTES : AttributesOf(path);
 }
 
 } // namespace
 
 bool FileExists(const fs::path& path) {
-    const DWORD attributes = path.empty() ? INVALID_FILE_ATTRIBUTES : AttributesOf(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    const DWORD attributes = Attributes(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && !IsFolder(attributes);
 }
 
 bool FolderExists(const fs::path& path) {
-    const DWORD attributes = path.empty() ? INVALID_FILE_ATTRIBUTES : AttributesOf(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return IsFolder(Attributes(path));
 }
 
 std::string PathText(const fs::path& path) {
@@ -46,11 +45,12 @@ std::string PathUtf8(const fs::path& path) {
 }
 
 fs::path PathOfText(std::string_view text) {
-    return PathOfUtf8(ToUtf8(text));
+    return PathOfSystemText(ToUtf8(text));
 }
 
 fs::path PathOfSystemText(std::string_view text) {
-    return PathOfUtf8(text);
+    const std::u32string unicode = UnicodeOf(text);
+    return unicode;
 }
 
 fs::path FullPath(const fs::path& path) {

@@ -109,9 +109,7 @@ void FailedTo(const std::string& step, DWORD error) {
 }
 
 void FailedAt(const fs::path& path, const std::string& step, DWORD error) {
-    const fs::path folder = path.parent_path();
-    if (IsMissingFolder(error) ||
-        (error == ERROR_FILE_NOT_FOUND && !folder.empty() && !FolderExists(folder))) {
+    if (IsMissingFolder(error) || (error == ERROR_FILE_NOT_FOUND && !FolderExists(FolderOf(path)))) {
         throw FileError("cannot " + step, ErrnoOf(error), ErrorNumber::PathNotFound);
     }
     FailedTo(step, error);

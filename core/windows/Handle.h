@@ -38,6 +38,11 @@ inline constexpr DWORD kSharedWithNone = 0;
 // nothing.
 [[nodiscard]] DWORD AttributesOf(const std::filesystem::path& path);
 
+// Whether the attributes are a folder's.
+[[nodiscard]] inline bool IsFolder(DWORD attributes) {
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 // An open file that is closed at the end of its scope.
 class Handle {
 public:

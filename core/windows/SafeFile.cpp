@@ -135,7 +135,7 @@ FileKind KindOfFile(const fs::path& path) {
         }
         return FileKind::None;
     }
-    return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileKind::None : FileKind::Regular;
+    return IsFolder(attributes) ? FileKind::None : FileKind::Regular;
 }
 
 std::string ReadFile(const fs::path& path, std::size_t most) {
@@ -147,8 +147,7 @@ std::string ReadFile(const fs::path& path, std::size_t most) {
         FailedAt(path, "open", ::GetLastError());
     }
     BY_HANDLE_FILE_INFORMATION found{};
-    if (::GetFileInformationByHandle(file.Get(), &found) != 0 &&
-        (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    if (::GetFileInformationByHandle(file.Get(), &found) != 0 && IsFolder(found.dwFileAttributes)) {
         throw FileError("cannot read", EISDIR);
     }
     return ReadFrom(file, most);
@@ -165,8 +164,7 @@ void ReplacePrivately(const fs::path& path, std::string_view content) {
     WriteAll(temporary.Get(), content);
     FlushToDisk(temporary.Get());
     if (!temporary.TakeName(path, TemporaryFile::OldFile::Goes)) {
-        const DWORD attributes = ::GetFileAttributesW(SystemName(path).c_str());
-        if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        if (IsFolder(::GetFileAttributesW(SystemName(path).c_str()))) {
             throw FileError("cannot replace the file", EISDIR);
         }
         FailedTo("replace the file", temporary.Error());
@@ -191,7 +189,7 @@ void ReplaceFile(const fs::path& path, std::string_view content, Flush flush) {
         ReplaceByRename(target, false, content, flush);
         return;
     }
-    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    if (IsFolder(attributes)) {
         throw FileError("cannot write to what is no file", EISDIR);
     }
     // The replacement asks for neither this attribute nor who may write the file.

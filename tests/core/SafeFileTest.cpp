@@ -2,12 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "core/SafeFile.h"
 
-#include "core/RunTimeError.h"
-#include "tests/support/LogicTest.h"
-#include "tests/support/TestFiles.h"
+#include "tests/core/SafeFileFixture.h"
 
 #include <string>
-#include <vector>
 
 namespace orvel {
 namespace {
@@ -18,8 +15,6 @@ using testing::Contents;
 using testing::ExpectRunTimeError;
 using testing::PutContents;
 using testing::TemporaryFolder;
-
-using Names = std::vector<std::string>;
 
 class InFolder {
 public:
@@ -34,22 +29,9 @@ private:
     fs::path folderBefore = fs::current_path();
 };
 
-class SafeFileTest : public ::testing::TestWithParam<Flush> {
-protected:
-    static void Replace(const fs::path& path, std::string_view content) {
-        ReplaceFile(path, content, GetParam());
-    }
+using SafeFileTest = Saves;
 
-    static void ExpectNotReplaced(const fs::path& path, ErrorNumber number) {
-        ExpectRunTimeError(number, [&] { ReplaceFile(path, "new", GetParam()); });
-    }
-
-    TemporaryFolder folder;
-    fs::path file = folder / "file";
-};
-
-INSTANTIATE_TEST_SUITE_P(SafeFile, SafeFileTest, ::testing::Values(Flush::ToDisk, Flush::Lazy),
-                         [](const auto& flush) { return flush.param == Flush::ToDisk ? "ToDisk" : "Lazy"; });
+INSTANTIATE_TEST_SUITE_P(SafeFile, SafeFileTest, kEachFlush, NameOfFlush);
 
 TEST_P(SafeFileTest, CreatesAFile) {
     std::string content(200000, 'x');

@@ -86,16 +86,23 @@ class DesktopTest(ProgramTest):
         desktop.press("Comments", "page tab")
         self.type_texts(test, {"OtherComments": "Comments / Recomendations:"})
 
-    def fill_and_type_readings(self, readings):
-        """Each reading and Down: nothing else is pressed."""
+    def auto_fill(self):
         desktop.press("Auto Fill")
         desktop.press("Yes")
         desktop.wait_until_gone("Auto Complete Entries")
-        desktop.keys("Tab")
+
+    def type_readings(self, readings):
+        """Each reading and Down: nothing else is pressed."""
         desktop.keys(*[key for reading in readings for key in [*str(reading), "Down"]], delay=5)
 
-    def save_and_exit(self, window):
+    def see_warnings(self):
+        desktop.find("Possible Errors in Data", "alert")
+        desktop.press("OK")
+
+    def save_and_exit(self, window, has_warnings=False):
         desktop.press("Save and Exit")
+        if has_warnings:
+            self.see_warnings()
         desktop.wait_for_text("Close data entry window?")
         desktop.press("Yes")
         desktop.wait_until_gone(window, "dialog")
@@ -110,27 +117,19 @@ class DesktopTest(ProgramTest):
         desktop.type_into("Rain Gauge Diameter (cm):", "10")
         desktop.type_into("Distance to First Gauge (feet):", "30")
         desktop.type_into("Gauge Spacing (feet):", "20")
-        desktop.press("Auto Fill")
-        desktop.press("Yes")
-        desktop.wait_until_gone("Auto Complete Entries")
+        self.auto_fill()
         desktop.press_cell(1, 2)
-        desktop.keys(*[key for reading in (112, 98, 105, 60) for key in [*str(reading), "Down"]], delay=5)
-        desktop.press("Save and Exit")
-        desktop.find("Possible Errors in Data", "alert")
-        desktop.press("OK")
-        desktop.wait_for_text("Close data entry window?")
-        desktop.press("Yes")
-        desktop.wait_until_gone("Center Pivot Data Entry", "dialog")
+        self.type_readings((112, 98, 105, 60))
+        self.save_and_exit("Center Pivot Data Entry", has_warnings=True)
         desktop.press("Generate Report")
-        desktop.find("Possible Errors in Data", "alert")
-        desktop.press("OK")
+        self.see_warnings()
         desktop.find("Report", "frame")
 
         test = json.loads(command_line("dump", self.folder / "typed.cpd"))
         self.assertEqual([(cup["Footage"], cup["Volume"]) for cup in test["Gauges"][:5]],
                          [(30, 112), (50, 98), (70, 105), (90, 60), (110, 0)])
 
-    def test_a_center_pivot_test_is_typed_from_the_field_sheet(self):
+    def test_a_center_pivot_test_is_typed_from_a_page_of_notes(self):
         test, readings = pivot_to_type()
         self.new_test_in_its_window("Center Pivot", "cpd")
         self.type_client(test)
@@ -156,11 +155,13 @@ class DesktopTest(ProgramTest):
             "GuageDiameter": "Rain Gauge Diameter (cm):",
             "DistanceToFirstGuage": "Distance to First Gauge (feet):", "GuageSpacing": "Gauge Spacing (feet):"})
         desktop.select("Operation Times:", 3)
-        self.fill_and_type_readings(readings)
+        self.auto_fill()
+        desktop.keys("Tab")
+        self.type_readings(readings)
         self.save_and_exit("Center Pivot Data Entry")
         self.assertEqual((self.folder / "typed.cpd").read_bytes(), self.built(test, "built.cpd"))
 
-    def test_a_solid_set_test_is_typed_from_the_field_sheet(self):
+    def test_a_solid_set_test_is_typed_from_a_page_of_notes(self):
         test = json.loads((EXAMPLES / "solid-set-1997.json").read_text(encoding="utf-8"))
         readings = [round(cup["Volume"]) for cup in test["Gauges"]]
         self.assertEqual(len(readings), 16)
@@ -187,7 +188,9 @@ class DesktopTest(ProgramTest):
             "GuageDiameter": "Rain Gauge Diameter (cm):", "NumberX": "Number Gauges (X Axis):",
             "NumberY": "Number Gauges (Y Axis):"})
         desktop.select("Operation Times:", 2)
-        self.fill_and_type_readings(readings)
+        self.auto_fill()
+        desktop.keys("Tab")
+        self.type_readings(readings)
         self.save_and_exit("Solid Set Data Entry")
         self.assertEqual((self.folder / "typed.ssd").read_bytes(), self.built(test, "built.ssd"))
 

@@ -20,6 +20,7 @@
 #include <QTextEdit>
 #include <algorithm>
 #include <cmath>
+#include <gtest/gtest-spi.h>
 #include <memory>
 #include <unordered_map>
 
@@ -238,50 +239,78 @@ void ExpectLegible(QWidget& window, const std::string& where) {
     ExpectLegibleEntries(window, picture, where);
 }
 
-// The desktop's theme is dark as long as it lives.
-class DarkTheme {
+// The desktop's theme as long as it lives.
+class DesktopTheme {
 public:
-    DarkTheme() {
-        const QColor window(53, 53, 53);
-        QPalette dark(window, window);
-        dark.setColor(QPalette::Base, QColor(35, 35, 35));
-        dark.setColor(QPalette::AlternateBase, window);
-        dark.setColor(QPalette::Text, Qt::white);
-        dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-        dark.setColor(QPalette::HighlightedText, Qt::black);
-        QApplication::setPalette(dark);
+    explicit DesktopTheme(const QPalette& palette) {
+        QApplication::setPalette(palette);
         QApplication::processEvents();
     }
-    ~DarkTheme() {
+    ~DesktopTheme() {
         QApplication::setPalette(QPalette());
         QApplication::processEvents();
     }
-    DarkTheme(const DarkTheme&) = delete;
-    DarkTheme& operator=(const DarkTheme&) = delete;
+    DesktopTheme(const DesktopTheme&) = delete;
+    DesktopTheme& operator=(const DesktopTheme&) = delete;
 };
+
+QPalette Dark() {
+    const QColor window(53, 53, 53);
+    QPalette dark(window, window);
+    dark.setColor(QPalette::Base, QColor(35, 35, 35));
+    dark.setColor(QPalette::AlternateBase, window);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    dark.setColor(QPalette::HighlightedText, Qt::black);
+    return dark;
+}
+
+// Texts of the colour of their background.
+QPalette Illegible() {
+    const QColor window(220, 220, 220);
+    QPalette palette(window, window);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::ButtonText, QPalette::Text, QPalette::Base}) {
+        palette.setColor(role, window);
+    }
+    return palette;
+}
 
 TEST_F(Theme, EveryTextStandsOut) {
     ForEach(ExpectLegible);
 }
 
+TEST_F(Theme, WhereATextDoesNotStandOutItIsFound) {
+    using Reporter = ::testing::ScopedFakeTestPartResultReporter;
+    const DesktopTheme theme(Illegible());
+    ForEach([](QWidget& window, const std::string& where) {
+        ::testing::TestPartResultArray found;
+        {
+            const Reporter reporter(Reporter::INTERCEPT_ONLY_CURRENT_THREAD, &found);
+            ExpectLegible(window, where);
+        }
+        EXPECT_GT(found.size(), 0) << where;
+    });
+}
+
 TEST_F(Theme, EveryTextStandsOutInADarkTheme) {
-    const DarkTheme dark;
+    const DesktopTheme dark(Dark());
     ForEach(ExpectLegible);
 }
 
 TEST_F(Theme, EveryTextStandsOutWhenTheThemeTurnsDarkUnderAnOpenWindow) {
     ForEach([](QWidget& window, const std::string& where) {
-        const DarkTheme dark;
+        const DesktopTheme dark(Dark());
         ExpectLegible(window, where + ", now dark");
     });
 }
 
 TEST_F(Theme, EveryTextStandsOutWhenTheThemeTurnsLightUnderAnOpenWindow) {
-    auto dark = std::make_unique<DarkTheme>();
+    auto dark = std::make_unique<DesktopTheme>(Dark());
     ForEach([&dark](QWidget& window, const std::string& where) {
         dark.reset();
         ExpectLegible(window, where + ", now light");
-        dark = std::make_unique<DarkTheme>();
+        dark = std::make_unique<DesktopTheme>(Dark());
     });
 }
 

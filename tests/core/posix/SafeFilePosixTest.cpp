@@ -4,9 +4,8 @@
 
 #include "core/RunTimeError.h"
 #include "tests/core/ReadFailures.h"
-#include "tests/support/LogicTest.h"
+#include "tests/core/SafeFileFixture.h"
 #include "tests/support/OrdinaryUser.h"
-#include "tests/support/TestFiles.h"
 
 #include <algorithm>
 #include <array>
@@ -36,8 +35,6 @@ using testing::Contents;
 using testing::ExpectRunTimeError;
 using testing::PutContents;
 using testing::TemporaryFolder;
-
-using Names = std::vector<std::string>;
 
 constexpr mode_t kPermissionBits = 07777;
 constexpr rlim_t kMostBytes = 4096;
@@ -94,22 +91,9 @@ void ReplaceByTooMuch(const fs::path& path, Flush flush) {
     ReplaceFile(path, std::string(3 * kMostBytes, 'n'), flush);
 }
 
-class SafeFileOnPosix : public ::testing::TestWithParam<Flush> {
-protected:
-    void Replace(const fs::path& path, std::string_view content) const {
-        ReplaceFile(path, content, GetParam());
-    }
+using SafeFileOnPosix = Saves;
 
-    void ExpectNotReplaced(const fs::path& path, ErrorNumber number) const {
-        ExpectRunTimeError(number, [&] { ReplaceFile(path, "new", GetParam()); });
-    }
-
-    TemporaryFolder folder;
-    fs::path file = folder / "file";
-};
-
-INSTANTIATE_TEST_SUITE_P(SafeFile, SafeFileOnPosix, ::testing::Values(Flush::ToDisk, Flush::Lazy),
-                         [](const auto& flush) { return flush.param == Flush::ToDisk ? "ToDisk" : "Lazy"; });
+INSTANTIATE_TEST_SUITE_P(SafeFile, SafeFileOnPosix, kEachFlush, NameOfFlush);
 
 TEST_P(SafeFileOnPosix, LeavesTheOldFileToWhoeverHasItOpen) {
     PutContents(file, "old");

@@ -5,14 +5,12 @@
 #include "core/windows/Handle.h"
 #include "core/windows/TemporaryFile.h"
 #include "tests/core/ReadFailures.h"
+#include "tests/core/SafeFileFixture.h"
 #include "tests/core/TemporaryFilesFixture.h"
-#include "tests/support/LogicTest.h"
 
 #include <array>
 #include <filesystem>
-#include <memory>
 #include <string>
-#include <vector>
 
 namespace orvel {
 namespace {
@@ -24,21 +22,9 @@ using testing::ExpectRunTimeError;
 using testing::PutContents;
 using testing::TemporaryFolder;
 
-class SafeFileOnWindows : public TemporaryFiles, public ::testing::WithParamInterface<Flush> {
-protected:
-    static void Replace(const fs::path& path, std::string_view content) {
-        ReplaceFile(path, content, GetParam());
-    }
+using SafeFileOnWindows = Saves;
 
-    static void ExpectNotReplaced(const fs::path& path, ErrorNumber number) {
-        ExpectRunTimeError(number, [&] { ReplaceFile(path, "new", GetParam()); });
-    }
-
-    fs::path file = folder / "file";
-};
-
-INSTANTIATE_TEST_SUITE_P(SafeFile, SafeFileOnWindows, ::testing::Values(Flush::ToDisk, Flush::Lazy),
-                         [](const auto& flush) { return flush.param == Flush::ToDisk ? "ToDisk" : "Lazy"; });
+INSTANTIATE_TEST_SUITE_P(SafeFile, SafeFileOnWindows, kEachFlush, NameOfFlush);
 
 TEST_P(SafeFileOnWindows, RefusesAReadOnlyFile) {
     PutContents(file, "old");
@@ -179,19 +165,7 @@ TEST(SystemErrorOnWindows, HasTheNumberOfItsReason) {
 using TemporaryFilesOnWindows = TemporaryFiles;
 
 TEST_F(TemporaryFilesOnWindows, EachSaveUnderWayHasOneOfItsOwn) {
-    std::vector<std::unique_ptr<TemporaryFile>> files;
-    for (int i = 0; i < 10; ++i) {
-        files.push_back(std::make_unique<TemporaryFile>(folder.Path(), TemporaryFile::Readers::OfFolder));
-        ASSERT_TRUE(files.back()->IsOpen());
-    }
-    Names names = folder.Names();
-    EXPECT_EQ(names.size(), 10U);
-    ExpectLeftBySave(names);
-    std::erase(names, ".orvel-save-3");
-    files.erase(files.begin() + 2);
-    ExpectLeftBySave(names);
-    files.clear();
-    EXPECT_EQ(folder.Names(), Names{"file"});
+    ExpectEachSaveHasOneOfItsOwn<TemporaryFile>(TemporaryFile::Readers::OfFolder);
 }
 
 TEST_F(TemporaryFilesOnWindows, OneThatIsOpenStays) {
