@@ -3,6 +3,7 @@
 #include "core/NumberLocale.h"
 
 #include "core/CodePage.h"
+#include "tests/core/InvariantNumbers.h"
 #include "tests/support/LogicTest.h"
 
 #include <climits>
@@ -11,13 +12,9 @@
 namespace orvel {
 namespace {
 
-class NumberLocaleTest : public testing::LogicTest {};
+using testing::ExpectInvariant;
 
-void ExpectInvariant(const NumberLocale& locale) {
-    EXPECT_EQ(locale.decimalSeparator, '.');
-    EXPECT_EQ(locale.groupSeparator, ',');
-    EXPECT_EQ(locale.grouping, "\3");
-}
+class NumberLocaleTest : public testing::LogicTest {};
 
 TEST(NumberLocale, IsInvariantUntilSet) {
     ExpectInvariant(InvariantNumberLocale());

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/RecordFiles.h"
 
-#include "core/ProgramState.h"
 #include "core/RecordLayout.h"
-#include "tests/support/LogicTest.h"
-#include "tests/support/TestFiles.h"
+#include "tests/core/RecordFilesFixture.h"
 
 #include <algorithm>
 #include <bit>
@@ -62,14 +60,7 @@ void MakeOld(const fs::path& path) {
     fs::last_write_time(path, fs::last_write_time(path) - std::chrono::hours(24));
 }
 
-class RecordFilesTest : public testing::LogicTest {
-protected:
-    RecordFilesTest() { Program().programDirectory = folder.Path(); }
-
-    TemporaryFolder folder;
-    fs::path settingsFile = folder / "user.usr";
-    fs::path soilFile = folder / "soil.dat";
-};
+using RecordFilesTest = RecordFiles;
 
 template <class T>
 class TestFilesTest : public ::testing::Test {

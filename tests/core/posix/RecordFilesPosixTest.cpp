@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "core/RecordFiles.h"
 
-#include "core/ProgramState.h"
-#include "tests/support/LogicTest.h"
+#include "tests/core/RecordFilesFixture.h"
 #include "tests/support/OrdinaryUser.h"
-#include "tests/support/TestFiles.h"
 
 #include <string>
 #include <vector>
@@ -23,14 +21,7 @@ using testing::TemporaryFolder;
 
 using Names = std::vector<std::string>;
 
-class RecordFilesOnPosix : public testing::LogicTest {
-protected:
-    RecordFilesOnPosix() { Program().programDirectory = folder.Path(); }
-
-    TemporaryFolder folder;
-    fs::path settingsFile = folder / "user.usr";
-    fs::path soilFile = folder / "soil.dat";
-};
+using RecordFilesOnPosix = RecordFiles;
 
 TEST_F(RecordFilesOnPosix, WhatIsOutOfReachIsNotTakenForMissing) {
     PutContents(settingsFile, "x");

@@ -5,6 +5,7 @@
 #include "core/CodePage.h"
 #include "core/Masks.h"
 #include "core/NumberText.h"
+#include "tests/core/InvariantNumbers.h"
 #include "tests/support/LogicTest.h"
 #include "tests/support/TestFiles.h"
 
@@ -21,6 +22,7 @@
 namespace orvel {
 namespace {
 
+using testing::ExpectInvariant;
 using testing::TemporaryFolder;
 
 // The environment's words on locales: none of them at first, as they were at the end.
@@ -93,12 +95,6 @@ protected:
     LocaleEnvironment environment;
     TemporaryFolder folder;
 };
-
-void ExpectInvariant(const NumberLocale& locale) {
-    EXPECT_EQ(locale.decimalSeparator, '.');
-    EXPECT_EQ(locale.groupSeparator, ',');
-    EXPECT_EQ(locale.grouping, "\3");
-}
 
 TEST_F(SystemLocaleOnPosix, AnEnvironmentWithoutLocaleIsInvariant) {
     ExpectInvariant(SystemNumberLocale());
